@@ -1,0 +1,53 @@
+// The extended-identifier scheme of the VHDL family (IEEE 1076, 13.4.3): a name that is not a basic identifier stands
+// between backslashes, a backslash inside doubled.
+#ifndef ZEL_SPACES_EXTENDEDIDENTIFIER_H
+#define ZEL_SPACES_EXTENDEDIDENTIFIER_H
+
+#include "core/hexEscape.h"
+
+namespace zeli {
+
+// Whether a name that begins with a backslash is a well-formed extended identifier over a set of bytes.
+bool isLegalExtended(Bytes name, const ByteSet &escapable);
+
+// Whether name has the outer form of an extended identifier. A lone backslash does: it opens and closes at once.
+inline bool isExtended(Bytes name) { return !name.empty() && name.front() == '\\' && name.back() == '\\'; }
+inline Bytes extendedContent(Bytes name) { return name.size() < 2 ? Bytes{"", 0} : Bytes{name.data() + 1, name.size() - 2}; }
+
+// A backslash inside is doubled: how that is written, and for decode the first of the two.
+constexpr Quoting doubledBackslash = {chars("\\"), '\\'};
+inline bool quotesBackslash(Bytes s, std::size_t i) { return s[i] == '\\' && i + 1 < s.size() && s[i + 1] == '\\'; }
+
+// body, without a force prefix, as an extended identifier.
+Bytes writeExtended(Text &work, Bytes body, const HexEscape &escape, bool folds);
+
+// Reads an extended identifier. A content that would also be a name as it stands keeps the force prefix, by which it is
+// written back extended; one with capitals only when keepsCapitals.
+template <typename IsNormal>
+Ident readExtended(Bytes name, Text &work, const HexEscape &escape, bool keepsCapitals, IsNormal isNormal) {
+  if (!isExtended(name))
+    return refuseIdent();
+  work.put(force);
+  const bool copiedUpper = decode(work, extendedContent(name), escape, quotesBackslash);
+  const Bytes forced = work.view();
+  const Bytes plain = skipForce(forced);
+  if ((!copiedUpper || keepsCapitals) && isNormal(plain))
+    return {'S', forced};
+  return identByCase(copiedUpper, plain);
+}
+
+struct ExtendedIdentifierSpace {
+  ByteSet first;
+  ByteSet normal;
+  HexEscape escape; // its literal bytes are the ones that may stand in an extended identifier
+  bool (*isKeyword)(Bytes word);
+
+  bool isNormal(Bytes name) const;
+  bool isLegal(Bytes name) const;
+  Bytes write(const Ident &ident, Text &work) const;
+  Ident read(Bytes name, Text &work) const;
+};
+
+} // namespace zeli
+
+#endif
