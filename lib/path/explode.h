@@ -1,0 +1,69 @@
+// Expanding the item forms that a target cannot write: index lists, index repeats, step ranges, and ranges when single
+// bits are wanted. Each becomes a node that enumerates its values from the path's own bytes, and a name is written
+// once for every combination of the values of its nodes.
+#ifndef ZEL_PATH_EXPLODE_H
+#define ZEL_PATH_EXPLODE_H
+
+#include "path/chunk.h"
+
+namespace zeli {
+
+// Which forms to expand.
+enum ExplodeMask : std::uint32_t {
+  EXPLODE_GROUP_REPEAT = 1, // marked only: a group is never multiplied out
+  EXPLODE_RANGE = 2,
+  EXPLODE_STEP = 4,
+  EXPLODE_MULTI = 8,         // an index directly followed by another
+  EXPLODE_INDEX_REPEAT = 16, // an index directly followed by a repeat
+  EXPLODE_ALL = 31
+};
+
+enum class NodeKind { groupRepeat, range, step, list, repeat };
+
+struct explNode {
+  NodeKind kind;
+  explNode *next;   // in path order: of the path's nodes, or inside the parent
+  explNode *prev;   // likewise
+  explNode *child;  // of a list, the first element that has a node; of a repeat, what it repeats
+  explNode *parent; // the list or repeat it stands in
+  explNode *made;   // the node made before, for the release
+
+  Cursor start; // where the name begins that is written for every value
+  Cursor item;  // the item whose value varies (none in a group repeat)
+  Cursor end;   // behind what the node covers
+
+  // The place in the enumeration.
+  std::int32_t counter; // range, step, repeat
+  Cursor element;       // list: the current element ...
+  explNode *ahead;      // ... and the first child at it or behind it
+
+  Cursor firstElement; // list
+  Cursor lastElement;  // list: behind the last one
+  std::int32_t count;  // repeat
+};
+
+// The nodes of one printing run.
+struct Explosion {
+  explNode *first = nullptr;
+  explNode *last = nullptr;
+  explNode *made = nullptr;
+  bool isWhole = true; // false when memory ran out
+};
+
+// Finds what the mask expands. Ends the process when a bracketed index list stands where it cannot be expanded.
+void setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask);
+void freeExpl(Explosion &explosion);
+
+// The current value of a node: a number, or an item to be printed as it stands.
+struct IndexValue {
+  Cursor item; // at the end of the path when number holds
+  std::int32_t number;
+};
+IndexValue getIndexValue(explNode *node);
+
+// Moves a node to its next value; true when it has run through all of them and stands at the first again.
+bool incrementIndex(explNode *node);
+
+} // namespace zeli
+
+#endif

@@ -1,0 +1,48 @@
+// What all path parsers share.
+#ifndef ZEL_PATH_PARSE_H
+#define ZEL_PATH_PARSE_H
+
+#include "core/text.h"
+#include "path/chunk.h"
+#include "path/language.h"
+
+#include <initializer_list>
+
+namespace zeli {
+
+// An empty path that remembers its text and language; null with EINVAL for a null text, or ENOMEM.
+zelPath startPath(const char *text, const Language &language, zelHandle handle, zelAllocFunc alloc, void *context);
+
+// Ends a parse that refuses its text: what was read so far stays.
+inline zelPath reject(zelPath path) {
+  path->flags |= flagError;
+  return path;
+}
+
+// Appends the name at text, not converted yet, and moves text behind it. False when it is over-long or not legal in the
+// language, or could not be added.
+bool readName(zelPath path, const Language &language, const char *&text, Kind mark = kindNone);
+
+// Reads decimal digits, none giving 0, and moves text behind them. A number out of the range of paths gives one that no
+// append takes, however many digits it has.
+std::int32_t readDigits(const char *&text);
+
+// The same behind an optional sign.
+std::int32_t readSigned(const char *&text);
+
+template <typename State> bool isOneOf(State state, std::initializer_list<State> states) {
+  for (const State candidate : states)
+    if (state == candidate)
+      return true;
+  return false;
+}
+
+// A level separator follows: notes an index or range in the middle of the path.
+void noteMid(zelPath path);
+
+constexpr ByteSet blank = chars(" \t");
+constexpr ByteSet sign = chars("+-");
+
+} // namespace zeli
+
+#endif

@@ -1,0 +1,343 @@
+#include "path/explode.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+
+using namespace zeli;
+
+namespace {
+
+bool isIndexLike(std::uint8_t kind) {
+  return isAnyIndex(kind) || kind == kindIndexListStart || kind == kindIndexListEnd;
+}
+
+bool isRepeat(Cursor cursor) { return !cursor.atEnd() && isForm(cursor.kind(), kindIndexRepeat); }
+
+// Setup ----------------------------------------------------------------------------------------------------------
+
+explNode *makeNode(Explosion &explosion, NodeKind kind, Cursor item) {
+  auto *node = static_cast<explNode *>(std::calloc(1, sizeof(explNode)));
+  if (node == nullptr) {
+    explosion.isWhole = false;
+    errno = ENOMEM;
+    return nullptr;
+  }
+  node->kind = kind;
+  node->item = item;
+  node->made = explosion.made;
+  explosion.made = node;
+  return node;
+}
+
+void link(Explosion &explosion, explNode *node, Cursor anchor) {
+  node->start = anchor;
+  node->prev = explosion.last;
+  (explosion.last == nullptr ? explosion.first : explosion.last->next) = node;
+  explosion.last = node;
+}
+
+// While a list is being set up, its ahead is its last child.
+void adopt(explNode *list, explNode *node) {
+  node->parent = list;
+  node->prev = list->ahead;
+  (list->ahead == nullptr ? list->child : list->ahead->next) = node;
+  list->ahead = node;
+}
+
+void disown(explNode *list, const explNode *lastChild) {
+  list->ahead = lastChild->prev;
+  (list->ahead == nullptr ? list->child : list->ahead->next) = nullptr;
+}
+
+void beginList(explNode *list, Cursor firstElement) { list->firstElement = list->element = firstElement; }
+
+void endList(explNode *list, Cursor lastElement, Cursor end) {
+  list->lastElement = lastElement;
+  list->end = end;
+  list->ahead = list->child;
+}
+
+// The node that an index, range or step range needs where nothing repeats it.
+explNode *makeValueNode(Explosion &explosion, Cursor item, bool expandsRange, bool expandsStep) {
+  const std::uint8_t kind = item.kind();
+  explNode *node = nullptr;
+  if (isForm(kind, kindRange) && expandsRange)
+    node = makeNode(explosion, NodeKind::range, item);
+  else if (isForm(kind, kindStepRange) && expandsStep)
+    node = makeNode(explosion, NodeKind::step, item);
+  if (node != nullptr)
+    node->end = item.next();
+  return node;
+}
+
+// A node for an index and the repeat behind it. child is the node of the index, if it has one.
+explNode *makeRepeatNode(Explosion &explosion, Cursor index, Cursor repeat, explNode *child) {
+  explNode *node = makeNode(explosion, NodeKind::repeat, index);
+  if (node == nullptr)
+    return nullptr;
+  node->count = repeat.number(0);
+  node->end = repeat.next();
+  node->child = child;
+  if (child != nullptr)
+    child->parent = node;
+  return node;
+}
+
+explNode *setupExplodeIRepeat(Explosion &explosion, Cursor index) {
+  // What is repeated is written value by value, whatever the mask says of ranges elsewhere.
+  explNode *child = makeValueNode(explosion, index, true, true);
+  return explosion.isWhole ? makeRepeatNode(explosion, index, index.next(), child) : nullptr;
+}
+
+// A node for the run of indexes at cursor; bracketed lists inside it are elements of their own. Null without memory.
+explNode *setupExplodeMulti(Explosion &explosion, Cursor cursor, std::uint32_t mask) {
+  explNode *const run = makeNode(explosion, NodeKind::list, cursor);
+  if (run == nullptr)
+    return nullptr;
+  beginList(run, cursor);
+
+  explNode *list = run;
+  while (!cursor.atEnd() && isIndexLike(cursor.kind())) {
+    const Cursor item = cursor;
+    cursor = cursor.next();
+    explNode *element = nullptr;
+    if (item.kind() == kindIndexListStart) {
+      element = makeNode(explosion, NodeKind::list, item);
+      if (element == nullptr)
+        return nullptr;
+      beginList(element, cursor);
+      adopt(list, element);
+      list = element;
+      continue;
+    }
+    if (item.kind() == kindIndexListEnd) {
+      if (list == run)
+        continue;
+      endList(list, item, cursor);
+      if (!isRepeat(cursor)) {
+        list = list->parent;
+        continue;
+      }
+      explNode *const repeated = list;
+      list = list->parent;
+      disown(list, repeated);
+      element = makeRepeatNode(explosion, repeated->item, cursor, repeated);
+    } else if (isRepeat(cursor)) {
+      element = setupExplodeIRepeat(explosion, item);
+    } else {
+      element = makeValueNode(explosion, item, (mask & EXPLODE_RANGE) != 0, (mask & EXPLODE_STEP) != 0);
+    }
+    if (!explosion.isWhole)
+      return nullptr;
+    if (element != nullptr) {
+      adopt(list, element);
+      cursor = element->end;
+    }
+  }
+  for (; list != nullptr; list = list->parent)
+    endList(list, cursor, cursor);
+  return run;
+}
+
+// The node for an index that stands in front of another index or a repeat; null when the mask leaves it alone.
+explNode *setupCombined(Explosion &explosion, Cursor cursor, Cursor behind, std::uint32_t mask) {
+  if (!isIndexLike(cursor.kind()) || behind.atEnd())
+    return nullptr;
+  if (isIndexLike(behind.kind()) && (mask & EXPLODE_MULTI) != 0)
+    return setupExplodeMulti(explosion, cursor, mask);
+  if (isRepeat(behind) && (mask & EXPLODE_INDEX_REPEAT) != 0)
+    return setupExplodeIRepeat(explosion, cursor);
+  return nullptr;
+}
+
+[[noreturn]] void stopAtIllegalPosition() {
+  std::fflush(stdout);
+  std::fputs("setupExplode: Illegal position in zelPath\n", stderr);
+  std::abort();
+}
+
+// Where the group that begins behind a repeat ends. What is inside is not expanded.
+Cursor groupEnd(Explosion &explosion, Cursor cursor, std::uint32_t mask) {
+  // A repeat in front of a separator takes the rest of the list with it.
+  const bool takesList = !cursor.atEnd() && cursor.kind() == kindList;
+  while (!cursor.atEnd() && explosion.isWhole) {
+    const std::uint8_t kind = cursor.kind();
+    const Cursor behind = cursor.next();
+    if (kind == kindListEnd)
+      return takesList ? behind : cursor;
+    if (kind == kindList && !takesList)
+      return cursor;
+    const explNode *node = setupCombined(explosion, cursor, behind, mask);
+    if (node == nullptr && (kind == kindIndexListStart || kind == kindIndexListEnd) && explosion.isWhole)
+      stopAtIllegalPosition();
+    cursor = node != nullptr ? node->end : behind;
+  }
+  return {};
+}
+
+// Values ---------------------------------------------------------------------------------------------------------
+
+// The node of the current element of a list, if it has one.
+explNode *currentChild(const explNode *list) {
+  return list->ahead != nullptr && list->ahead->item == list->element ? list->ahead : nullptr;
+}
+
+// The innermost node that the current value of a node comes from.
+explNode *active(explNode *node) {
+  for (;;) {
+    explNode *inner = nullptr;
+    if (node->kind == NodeKind::list)
+      inner = currentChild(node);
+    else if (node->kind == NodeKind::repeat)
+      inner = node->child;
+    if (inner == nullptr)
+      return node;
+    node = inner;
+  }
+}
+
+std::int64_t valueAt(const explNode *node, std::int64_t counter) {
+  const std::int64_t first = node->item.number(0);
+  const std::int64_t step = node->kind == NodeKind::step ? node->item.number(2) : 1;
+  return first < node->item.number(1) ? first + counter * step : first - counter * step;
+}
+
+bool hasPassed(const explNode *node, std::int64_t value) {
+  const std::int32_t last = node->item.number(1);
+  return node->item.number(0) < last ? value > last : value < last;
+}
+
+// A bracket that a cut path ends in.
+bool isEmpty(const explNode *list) { return list->firstElement == list->lastElement; }
+
+// Carries --------------------------------------------------------------------------------------------------------
+
+// Moves one node on, those inside it having run through their values.
+bool advance(explNode *node) {
+  switch (node->kind) {
+  case NodeKind::range:
+  case NodeKind::step:
+    if (!hasPassed(node, valueAt(node, ++node->counter)))
+      return false;
+    node->counter = 0;
+    return true;
+  case NodeKind::list:
+    if (isEmpty(node))
+      return true;
+    if (const explNode *child = currentChild(node); child != nullptr) {
+      node->element = child->end;
+      node->ahead = child->next;
+    } else {
+      node->element = node->element.next();
+    }
+    if (node->element != node->lastElement)
+      return false;
+    node->element = node->firstElement;
+    node->ahead = node->child;
+    return true;
+  case NodeKind::repeat:
+    if (node->counter < node->count) {
+      ++node->counter;
+      return false;
+    }
+    node->counter = 0;
+    return true;
+  case NodeKind::groupRepeat:
+    break;
+  }
+  return true;
+}
+
+} // namespace
+
+void zeli::setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask) {
+  // The first identifier of the name being read is the anchor of its nodes.
+  Cursor anchor = firstItem(path);
+  bool isAnchorPending = true;
+  for (Cursor cursor = anchor; !cursor.atEnd() && explosion.isWhole;) {
+    const std::uint8_t kind = cursor.kind();
+    const Cursor behind = cursor.next();
+    if (explNode *node = setupCombined(explosion, cursor, behind, mask); node != nullptr) {
+      link(explosion, node, anchor);
+      cursor = node->end;
+      continue;
+    }
+    if (!explosion.isWhole)
+      return;
+
+    switch (kind) {
+    case kindRange:
+    case kindRange + 1:
+    case kindStepRange:
+    case kindStepRange + 1:
+      isAnchorPending = false;
+      if (explNode *node = makeValueNode(explosion, cursor, (mask & EXPLODE_RANGE) != 0, (mask & EXPLODE_STEP) != 0);
+          node != nullptr)
+        link(explosion, node, anchor);
+      break;
+    case kindIndexRepeat:
+    case kindIndexRepeat + 1:
+      isAnchorPending = false;
+      break;
+    case kindGroupRepeat:
+    case kindGroupRepeat + 1:
+      isAnchorPending = true;
+      if ((mask & EXPLODE_GROUP_REPEAT) != 0) {
+        explNode *node = makeNode(explosion, NodeKind::groupRepeat, {});
+        if (node == nullptr)
+          return;
+        node->end = groupEnd(explosion, behind, mask);
+        link(explosion, node, cursor);
+        cursor = node->end;
+        continue;
+      }
+      break;
+    case kindList:
+    case kindListStart:
+    case kindListEnd:
+      isAnchorPending = true;
+      break;
+    case kindIndexListStart:
+    case kindIndexListEnd:
+      stopAtIllegalPosition();
+    default:
+      if (isAnchorPending && kind >= kindOwnedIdent && kind < kindEnd) {
+        anchor = cursor;
+        isAnchorPending = false;
+      }
+    }
+    cursor = behind;
+  }
+}
+
+void zeli::freeExpl(Explosion &explosion) {
+  while (explosion.made != nullptr) {
+    explNode *node = explosion.made;
+    explosion.made = node->made;
+    std::free(node);
+  }
+}
+
+IndexValue zeli::getIndexValue(explNode *node) {
+  node = active(node);
+  switch (node->kind) {
+  case NodeKind::list:
+    return {isEmpty(node) ? node->item : node->element, 0};
+  case NodeKind::repeat:
+    return {node->item, 0};
+  case NodeKind::range:
+  case NodeKind::step:
+    return {{}, static_cast<std::int32_t>(valueAt(node, node->counter))};
+  case NodeKind::groupRepeat:
+    break;
+  }
+  return {{}, -1};
+}
+
+bool zeli::incrementIndex(explNode *node) {
+  for (explNode *inner = active(node); advance(inner); inner = inner->parent)
+    if (inner == node)
+      return true;
+  return false;
+}

@@ -1,0 +1,61 @@
+#include "path/parse.h"
+
+using namespace zeli;
+
+zelPath zeli::startPath(const char *text, const Language &language, zelHandle handle, zelAllocFunc alloc,
+                        void *context) {
+  if (text == nullptr) {
+    errno = EINVAL;
+    return nullptr;
+  }
+  const zelPath path = zelCreatePath(alloc, context);
+  if (path == nullptr)
+    return nullptr;
+  path->slots[path->slotsUsed++].string = text;
+  path->flags |= static_cast<std::uint32_t>(language.code) << languageShift;
+  path->handle = handle;
+  return path;
+}
+
+bool zeli::readName(zelPath path, const Language &language, const char *&text, Kind mark) {
+  const char *end = language.scan(text, path->handle);
+  const auto length = static_cast<std::size_t>(end - text);
+  if (length > maxName)
+    return false;
+  if (language.isLegal != nullptr) {
+    char name[maxName + 1];
+    std::memcpy(name, text, length);
+    name[length] = '\0';
+    if (language.isLegal(name) == 0)
+      return false;
+  }
+  if (!appendPointers(path, mark, kindTextIdent, 1, &text))
+    return false;
+  text = end;
+  return true;
+}
+
+std::int32_t zeli::readDigits(const char *&text) {
+  constexpr std::int32_t tooLarge = 100000000;
+  std::int32_t value = 0;
+  for (; digit.has(*text); ++text)
+    if (value < tooLarge)
+      value = value * 10 + (*text - '0');
+  return value;
+}
+
+std::int32_t zeli::readSigned(const char *&text) {
+  const bool isNegative = *text == '-';
+  if (sign.has(*text))
+    ++text;
+  const std::int32_t value = readDigits(text);
+  return isNegative ? -value : value;
+}
+
+void zeli::noteMid(zelPath path) {
+  const std::uint8_t kind = lastItem(path);
+  if (isForm(kind, kindIndex))
+    path->flags |= flagMidIndex;
+  else if (isForm(kind, kindRange))
+    path->flags |= flagMidRange;
+}

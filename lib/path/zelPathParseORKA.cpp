@@ -1,0 +1,194 @@
+// The ORKA path grammar: levels joined by '/', indexes in angle brackets with ranges, steps, lists and repeats, lists
+// in parentheses, and repeated groups behind a prefix <*count>.
+#include "path/parse.h"
+
+using namespace zeli;
+
+namespace {
+
+enum class State { start, less, star, count, prefix, slash, name, listStart, comma, listEnd, index };
+
+enum class IndexState { start, first, colon, second, secondColon, third, star, count, listStart, comma, listEnd };
+
+// Ends an index that is refused, at the character that it is refused for. A list that was opened with nothing behind it
+// is taken back, so that what stays can be printed.
+const char *rejectIndex(zelPath path, const char *text) {
+  reject(path);
+  while (lastItem(path) == kindIndexListStart)
+    removeLastByte(path);
+  return text;
+}
+
+// Reads one index, text standing behind its '<', and returns the place behind its '>'.
+const char *parseORKAIndex(zelPath path, const char *text) {
+  using enum IndexState;
+  IndexState state = start;
+  std::int32_t from = 0;
+  std::int32_t to = 0;
+  int depth = 0;
+
+  for (;; ++text) {
+    const char c = *text;
+    if (digit.has(c)) {
+      const char *const number = text;
+      const std::int32_t value = readDigits(text);
+      if (!isNumber(value) || isOneOf(state, {first, second, third, count}))
+        return rejectIndex(path, number);
+      while (blank.has(*text))
+        ++text;
+      const bool goesOn = *text == ':';
+      bool isAdded = true;
+      if (state == colon) {
+        to = value;
+        path->flags |= flagRange;
+        isAdded = goesOn || appendRange(path, from, to);
+        state = second;
+      } else if (state == secondColon) {
+        const std::int32_t numbers[] = {from, to, value};
+        path->flags |= flagComplexIndex;
+        isAdded = appendNumbers(path, kindStepRange, 3, numbers);
+        state = third;
+      } else if (state == star) {
+        isAdded = appendNumber(path, kindIndexRepeat, value);
+        state = count;
+      } else {
+        from = value;
+        path->flags |= flagIndex;
+        isAdded = goesOn || appendNumber(path, kindIndex, from);
+        state = first;
+      }
+      if (!isAdded)
+        return rejectIndex(path, number);
+      --text; // the loop steps on
+      continue;
+    }
+
+    switch (c) {
+    case '>':
+      if (depth != 0 || !isOneOf(state, {first, second, third, count, listEnd}))
+        return rejectIndex(path, text);
+      return text + 1;
+    case ':':
+      if (!isOneOf(state, {first, second}))
+        return rejectIndex(path, text);
+      state = state == first ? colon : secondColon;
+      break;
+    case '(':
+      if (!isOneOf(state, {start, count, listStart, listEnd}) || !append(path, kindIndexListStart))
+        return rejectIndex(path, text);
+      ++depth;
+      state = listStart;
+      break;
+    case ',':
+      if (!isOneOf(state, {first, second, third, count}))
+        return rejectIndex(path, text);
+      state = comma;
+      break;
+    case ')':
+      if (!isOneOf(state, {first, second, third, count, listEnd}) || depth == 0 || !append(path, kindIndexListEnd))
+        return rejectIndex(path, text);
+      --depth;
+      state = listEnd;
+      break;
+    case '*':
+      if (!isOneOf(state, {first, second, third, listEnd}))
+        return rejectIndex(path, text);
+      path->flags |= flagComplexIndex;
+      state = star;
+      break;
+    default:
+      return rejectIndex(path, text);
+    }
+  }
+}
+
+zelPath parse(zelPath path, const char *text) {
+  using enum State;
+  constexpr ByteSet nameStart = graphic - chars("(),/<>");
+  State state = start;
+  bool topPending = false;
+  int depth = 0;
+
+  for (;;) {
+    const char c = *text;
+    if (c == '\0')
+      return depth < 1 && isOneOf(state, {name, listEnd, index}) ? path : reject(path);
+    if (state == star && digit.has(c)) {
+      path->flags |= flagRepeat;
+      if (!appendNumber(path, kindGroupRepeat, readDigits(text)))
+        return path;
+      state = count;
+      continue;
+    }
+    if (nameStart.has(c) && !(state == less && c == '*')) {
+      if (!readName(path, orkaLanguage, text, topPending ? kindTopMark : kindNone) ||
+          isOneOf(state, {less, star, count, name, listEnd}))
+        return reject(path);
+      topPending = false;
+      state = name;
+      continue;
+    }
+
+    switch (c) {
+    case '*':
+      state = star;
+      break;
+    case '/':
+      if (isOneOf(state, {start, prefix, listStart, comma}))
+        topPending = true;
+      else if (isOneOf(state, {name, index}))
+        path->flags |= flagHierarchy;
+      else
+        return reject(path);
+      if (state == index)
+        noteMid(path);
+      state = slash;
+      break;
+    case '<':
+      if (isOneOf(state, {start, listStart, comma})) {
+        state = less;
+        break;
+      }
+      text = parseORKAIndex(path, text + 1);
+      if (state != name)
+        return reject(path);
+      state = index;
+      continue;
+    case '>':
+      if (state != count)
+        return reject(path);
+      state = prefix;
+      break;
+    case '(':
+      if (!isOneOf(state, {start, prefix, comma}) || !append(path, kindListStart))
+        return reject(path);
+      ++depth;
+      state = listStart;
+      break;
+    case ',':
+      if (!isOneOf(state, {name, index}) || !append(path, kindList))
+        return reject(path);
+      path->flags |= flagList;
+      state = comma;
+      break;
+    case ')':
+      if (!isOneOf(state, {name, index}) || !append(path, kindListEnd) || --depth < 0)
+        return reject(path);
+      state = listEnd;
+      break;
+    case ' ':
+    case '\t':
+      break;
+    default:
+      return reject(path);
+    }
+    ++text;
+  }
+}
+
+} // namespace
+
+zelPath zelParseORKA(const char *text, zelHandle, zelAllocFunc alloc, void *context) noexcept {
+  const zelPath path = startPath(text, orkaLanguage, nullptr, alloc, context);
+  return path == nullptr ? nullptr : parse(path, text);
+}

@@ -1,0 +1,168 @@
+// The printing driver and the public printers.
+#include "path/print.h"
+
+#include "core/zelpvt.h"
+
+#include <charconv>
+
+using namespace zeli;
+
+namespace {
+
+bool endsName(std::uint8_t kind) {
+  // Long repeats end a name and short ones do not; what is printed depends on it.
+  switch (kind) {
+  case kindGroupRepeat + 1:
+  case kindList:
+  case kindListStart:
+  case kindListEnd:
+  case kindIndexRepeat + 1:
+    return true;
+  default:
+    return false;
+  }
+}
+
+// Writes one combination: the name from its start, each node's item replaced by the node's value. Returns where the
+// name ended.
+Cursor printCombination(PrintRun &run, explNode *first, const explNode *last) {
+  explNode *node = first;
+  Cursor cursor = first->start;
+  while (!cursor.atEnd()) {
+    if (node != nullptr && node->item == cursor) {
+      const IndexValue value = getIndexValue(node);
+      if (value.item.atEnd())
+        run.value(value.number);
+      else
+        run.item(value.item);
+      cursor = node->end;
+      node = node == last ? nullptr : node->next;
+      continue;
+    }
+    if (endsName(cursor.kind()))
+      break;
+    run.item(cursor);
+    cursor = cursor.next();
+  }
+  return cursor;
+}
+
+// Writes a name once for every combination of the values of its nodes, the last node varying fastest. Gives up once the
+// text is over-long, so that an enumeration without end does end.
+Cursor walkIndex(PrintRun &run, explNode *first) {
+  explNode *last = first;
+  while (last->next != nullptr && last->next->start == first->start)
+    last = last->next;
+  for (;;) {
+    const Cursor end = printCombination(run, first, last);
+    explNode *node = last;
+    while (incrementIndex(node)) {
+      if (node == first)
+        return end;
+      node = node->prev;
+    }
+    if (run.isOverlong())
+      return end;
+    run.alternative();
+  }
+}
+
+void printItems(PrintRun &run, explNode *node) {
+  Cursor cursor = firstItem(run.path);
+  while (!cursor.atEnd()) {
+    if (node == nullptr || node->start != cursor) {
+      run.item(cursor);
+      cursor = cursor.next();
+      continue;
+    }
+    const Cursor start = cursor;
+    cursor = walkIndex(run, node);
+    while (node != nullptr && node->start == start)
+      node = node->next;
+  }
+}
+
+void openGroup(PrintRun &run) {
+  if (run.target.braces == Braces::verilog) {
+    if ((zelPathGetFlag(run.path) & ZEL_PATH_SINGLE_VERILOG) != 0)
+      return;
+    run.put('{');
+  }
+  run.set(stateGroup);
+}
+
+} // namespace
+
+PrintRun::PrintRun(const Target &printTarget, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask)
+    : target(printTarget), path(printedPath), handle(givenHandle), separators(printTarget.separators), state(mask) {
+  if (target.defaultHandle == nullptr)
+    return;
+  if (handle == nullptr)
+    handle = *target.defaultHandle;
+  separators = handle->separators;
+}
+
+void PrintRun::putNumber(std::int32_t number) {
+  const auto written = std::to_chars(text + size, std::end(text), number);
+  size = static_cast<std::size_t>(written.ptr - text);
+}
+
+void PrintRun::putIdent(const char *ident) {
+  guard();
+  char *const out = text + size;
+  const char *name = target.identToNameWithHandle != nullptr ? target.identToNameWithHandle(ident, nullptr, out, handle)
+                                                             : target.identToName(ident, nullptr, out);
+  if (name != nullptr)
+    size += std::strlen(name);
+}
+
+void PrintRun::putIdentAt(Cursor cursor) {
+  const std::uint8_t kind = cursor.kind();
+  putIdent(isText(kind) ? zelStrToIdent(cursor.chunk, cursor.position) : cursor.chunk->slots[slotOf(kind)].string);
+}
+
+void PrintRun::item(Cursor cursor) {
+  guard();
+  target.printer.item(*this, cursor);
+}
+
+void PrintRun::value(std::int32_t index) {
+  guard();
+  target.printer.value(*this, index);
+}
+
+void PrintRun::alternative() {
+  guard();
+  target.printer.alternative(*this);
+}
+
+char *zeli::printPath(const Target &target, zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc,
+                      void *context) {
+  if (firstItem(path).atEnd())
+    return makeString("", alloc, context);
+  const auto isAsked = [flags](int flag) { return (flags & flag) != 0; };
+
+  std::uint32_t mask = target.mask;
+  if (isAsked(ZEL_PRINT_EXPLODE))
+    mask |= target.explodeMask;
+  if (isAsked(ZEL_PRINT_NOREPEAT))
+    mask |= target.noRepeatMask;
+  Explosion explosion;
+  if (mask != 0)
+    setupExplode(explosion, path, mask);
+
+  char *result = nullptr;
+  if (explosion.isWhole) {
+    PrintRun run(target, path, handle, mask);
+    if (isAsked(ZEL_PRINT_TOP))
+      run.set(stateTopOfHierarchy);
+    if (isAsked(ZEL_PRINT_GROUP))
+      openGroup(run);
+    printItems(run, explosion.first);
+    target.printer.finish(run);
+    run.text[run.size] = '\0';
+    result = makeString(nameBytes(run.text), alloc, context);
+  }
+  freeExpl(explosion);
+  return result;
+}

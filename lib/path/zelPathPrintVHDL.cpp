@@ -1,0 +1,80 @@
+// Paths in VHDL: levels introduced by ':', ranges with their direction, library references.
+#include "path/print.h"
+
+using namespace zeli;
+
+namespace {
+
+void printLib(PrintRun &run, Cursor cursor) {
+  const Slot *names = cursor.chunk->slots + slotOf(cursor.kind());
+  const bool hasView = cursor.kind() >= kindLibView;
+  run.put('@');
+  if (names[0].string != nullptr) {
+    run.putIdent(names[0].string);
+    run.put('.');
+  }
+  if (names[1].string != nullptr)
+    run.putIdent(names[1].string);
+  if (hasView && names[2].string != nullptr) {
+    run.put('(');
+    run.putIdent(names[2].string);
+    run.put(')');
+  }
+  run.set(stateAfterIdent);
+}
+
+void printIndex(PrintRun &run, std::int32_t index) {
+  run.put('(');
+  run.putNumber(index);
+  run.put(')');
+}
+
+void printRange(PrintRun &run, std::int32_t from, std::int32_t to) {
+  run.put('(');
+  run.putNumber(from);
+  run.put(from > to ? " downto " : " to ");
+  run.putNumber(to);
+  run.put(')');
+}
+
+void printItem(PrintRun &run, Cursor cursor) {
+  const std::uint8_t kind = cursor.kind();
+  if (isIdent(kind)) {
+    if ((run.path->flags & flagHierarchy) != 0)
+      run.put(':');
+    run.putIdentAt(cursor);
+    run.set(stateAfterIdent);
+  } else if (isForm(kind, kindIndex)) {
+    printIndex(run, cursor.number(0));
+  } else if (isForm(kind, kindRange)) {
+    printRange(run, cursor.number(0), cursor.number(1));
+  } else if (kind == kindList) {
+    run.put("&&");
+    run.clear(stateAfterIdent);
+  } else if (kind == kindListStart) {
+    run.clear(stateAfterIdent);
+  } else if (isLib(kind)) {
+    printLib(run, cursor);
+  } else if (kind != kindListEnd && kind != kindSharedMark && kind != kindTopMark) {
+    run.put(unprintable);
+  }
+}
+
+void printAlternative(PrintRun &run) {
+  run.put(run.has(stateGroup) ? Bytes("&&") : Bytes(","));
+  run.clear(stateAfterIdent);
+}
+
+constexpr ItemPrinter VhdlPrint = {printItem, printIndex, printAlternative, [](PrintRun &) {}};
+
+constexpr Target vhdl = {VhdlPrint, zelIdentToVHDL, nullptr, nullptr, EXPLODE_ALL & ~EXPLODE_RANGE, EXPLODE_ALL, 0};
+
+} // namespace
+
+char *zelPathToVHDLEx(zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc, void *context) noexcept {
+  return printPath(vhdl, path, handle, flags, alloc, context);
+}
+
+char *zelPathToVHDL(zelPath path, zelHandle handle, std::int32_t flags) noexcept {
+  return zelPathToVHDLEx(path, handle, flags, nullptr, nullptr);
+}
