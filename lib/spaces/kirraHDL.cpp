@@ -1,0 +1,75 @@
+// KirraHDL: the behavioural language beside Kirra netlists.
+#include "core/zelpvt.h"
+#include "spaces/escapedIdentifier.h"
+
+using namespace zeli;
+
+namespace {
+
+// clang-format off
+constexpr const char *KirraHDLKeywordsA[] = {"abs", "abstol", "ac_stim", "acos", "acosh", "always", "analog",
+    "analysis", "ascii", "asin", "asinh", "assert", "assign", "atan", "atan2", "atanh"};
+constexpr const char *KirraHDLKeywordsB[] = {"bound_step", "branch", "break", "break_point", "build_string",
+    "build_table", "bus"};
+constexpr const char *KirraHDLKeywordsC[] = {"case", "ceil", "complex", "const", "continue", "cos", "cosh", "cross"};
+constexpr const char *KirraHDLKeywordsD[] = {"debug", "default", "do", "domain", "dot"};
+constexpr const char *KirraHDLKeywordsE[] = {"else", "enum", "error", "event", "exclude", "exp", "export"};
+constexpr const char *KirraHDLKeywordsF[] = {"fatal", "fclose", "fdebug", "fflush", "final", "finish",
+    "flicker_noise", "floor", "flow", "fopen", "for", "fread", "fread_table", "freq", "from", "fstrobe", "fwrite",
+    "fwrite_table"};
+constexpr const char *KirraHDLKeywordsG[] = {"generate", "global"};
+constexpr const char *KirraHDLKeywordsH[] = {"halt", "hypot"};
+constexpr const char *KirraHDLKeywordsI[] = {"idtmod", "if", "inf", "initial", "inout", "input", "integ", "integer",
+    "interpolate", "laplace_nd", "laplace_np", "laplace_zd", "laplace_zp", "last_crossing", "limexp", "ln", "log"};
+constexpr const char *KirraHDLKeywordsM[] = {"mag", "max", "min", "model", "module"};
+constexpr const char *KirraHDLKeywordsN[] = {"negedge", "net", "netlist_node_alias", "node", "noise_table", "notice"};
+constexpr const char *KirraHDLKeywordsO[] = {"output"};
+constexpr const char *KirraHDLKeywordsP[] = {"param_given", "parameter", "pclose", "phase", "popen", "posedge", "pow",
+    "pwl", "pwr"};
+constexpr const char *KirraHDLKeywordsQ[] = {"quantity"};
+constexpr const char *KirraHDLKeywordsR[] = {"random", "read", "real", "reg", "reject_step", "reltol", "return"};
+constexpr const char *KirraHDLKeywordsS[] = {"sin", "sinh", "slew", "sqrt", "state", "step", "stop", "str", "strcat",
+    "strchr", "strcmp", "strcpy", "strcspn", "stream", "string", "strlen", "strobe", "strrchr", "strspn", "strstr",
+    "strtoint", "strtoreal", "substr", "switch", "system"};
+constexpr const char *KirraHDLKeywordsT[] = {"table", "tan", "tanh", "tdelay", "temp", "terminal", "threshold",
+    "time", "transition"};
+constexpr const char *KirraHDLKeywordsU[] = {"unit"};
+constexpr const char *KirraHDLKeywordsV[] = {"val", "void", "vt"};
+constexpr const char *KirraHDLKeywordsW[] = {"wait", "warning", "when", "while", "white_noise", "wire", "write"};
+constexpr const char *KirraHDLKeywordsZ[] = {"zdelay", "zi_nd", "zi_np", "zi_zd", "zi_zp"};
+constexpr Keywords keywords = {{'a', KirraHDLKeywordsA}, {'b', KirraHDLKeywordsB}, {'c', KirraHDLKeywordsC}, {'d',
+    KirraHDLKeywordsD}, {'e', KirraHDLKeywordsE}, {'f', KirraHDLKeywordsF}, {'g', KirraHDLKeywordsG}, {'h',
+    KirraHDLKeywordsH}, {'i', KirraHDLKeywordsI}, {'m', KirraHDLKeywordsM}, {'n', KirraHDLKeywordsN}, {'o',
+    KirraHDLKeywordsO}, {'p', KirraHDLKeywordsP}, {'q', KirraHDLKeywordsQ}, {'r', KirraHDLKeywordsR}, {'s',
+    KirraHDLKeywordsS}, {'t', KirraHDLKeywordsT}, {'u', KirraHDLKeywordsU}, {'v', KirraHDLKeywordsV}, {'w',
+    KirraHDLKeywordsW}, {'z', KirraHDLKeywordsZ}};
+static_assert(keywords.words() == 161);
+// clang-format on
+
+// The words with 'l' stand among those with 'i' on purpose: they are never found, and so plain names of the space.
+
+constexpr EscapedIdentifierSpace space = {letter | chars("_"), letter | digit | chars("_"), {'#', graphic}, keywords};
+
+} // namespace
+
+int zelIsLegalKirraHDL(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+
+char *zelIdentToKirraHDL(const char *ident, zelAllocFunc alloc, void *context) noexcept {
+  return writeName(space, ident, alloc, context);
+}
+
+char *zelKirraHDLToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
+  return readName(space, name, alloc, context);
+}
+
+int zelIsLegalKirraHDLNormal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }
+
+int zelIsKirraHDLKeyword(const char *word) noexcept { return keywords.has(wholeBytes(word)) ? 1 : 0; }
+
+int zelIsKirraHDLFirstChar(int c) noexcept { return isIn(space.first, c); }
+
+int zelIsKirraHDLNormalChar(int c) noexcept { return isIn(space.normal, c); }
+
+int zelIsKirraHDLEscapableChar(int c) noexcept { return isIn(space.escape.literal, c); }
+
+int zelVerifyKirraHDLKeywords() noexcept { return keywords.verify() ? 1 : 0; }

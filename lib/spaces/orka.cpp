@@ -1,0 +1,216 @@
+// ORKA, the names of a design database: nearly every graphic character and index groups such as "(12)"; 44ORKA, the
+// same under another name; and EscORKA, where any other name stands between backslashes.
+#include "core/zelpvt.h"
+#include "spaces/extendedIdentifier.h"
+
+#include <cstdlib>
+
+using namespace zeli;
+
+namespace {
+
+constexpr ByteSet normal = graphic - chars("(),/<>\\");
+constexpr ByteSet escapable = graphic | chars(" ");
+
+constexpr HexEscape escape = {'#', normal};
+constexpr HexEscape extendedEscape = {'#', escapable};
+constexpr HexEscape extendedEscapeWritten = {'#', escapable, false};
+
+// The length of the index group at i; 0 when none stands there. A name does not begin with one.
+std::size_t indexGroup(Bytes name, std::size_t i) {
+  if (i == 0 || name[i] != '(')
+    return 0;
+  std::size_t end = i + 1;
+  while (end < name.size() && digit.has(name[end]))
+    ++end;
+  return end > i + 1 && end < name.size() && name[end] == ')' ? end + 1 - i : 0;
+}
+
+struct ORKASpace {
+  bool isLegal(Bytes name) const {
+    if (!isNameLength(name))
+      return false;
+    for (std::size_t i = 0; i < name.size(); ++i) {
+      const std::size_t group = indexGroup(name, i);
+      if (group != 0)
+        i += group - 1;
+      else if (!normal.has(name[i]))
+        return false;
+    }
+    return true;
+  }
+
+  Bytes write(const Ident &ident, Text &work) const {
+    const bool folds = foldsCase(ident);
+    const Bytes body = ident.body;
+    std::size_t done = 0;
+    for (std::size_t i = 0; i < body.size(); ++i) {
+      const std::size_t group = indexGroup(body, i);
+      if (group == 0)
+        continue;
+      encode(work, from(upTo(body, i), done), escape, folds);
+      done = i + group;
+      work.put(from(upTo(body, done), i));
+      i = done - 1;
+    }
+    encode(work, from(body, done), escape, folds);
+    return work.view();
+  }
+
+  Ident read(Bytes name, Text &work) const {
+    return isLegal(name) ? decodeIdent(work, name, escape, quotesNothing) : refuseIdent();
+  }
+};
+
+constexpr ORKASpace orka{};
+
+struct EscORKASpace {
+  bool isLegal(Bytes name) const {
+    if (!isNameLength(name))
+      return false;
+    return name[0] == '\\' ? isLegalExtended(name, escapable) : orka.isLegal(name);
+  }
+
+  Bytes write(const Ident &ident, Text &work) const {
+    const bool folds = foldsCase(ident);
+    const bool wasExtended = ident.isCaseSensitive() && isForce(ident.body);
+    if (wasExtended || !orka.isLegal(ident.body))
+      return writeExtended(work, ident.body, extendedEscapeWritten, folds);
+    if (!folds)
+      return ident.body;
+    encode(work, ident.body, noEscape, true);
+    return work.view();
+  }
+
+  // Other than in ORKA, a name that stands as it is has case whatever its letters.
+  Ident read(Bytes name, Text &work) const {
+    if (!isNameLength(name))
+      return refuseIdent();
+    if (orka.isLegal(name))
+      return {'S', name};
+    return readExtended(name, work, extendedEscape, false, [](Bytes plain) { return orka.isLegal(plain); });
+  }
+};
+
+constexpr EscORKASpace escORKA{};
+
+// Flat ORKA spells the syntax of a path with characters that are plain text elsewhere, and encodes these.
+constexpr Bytes pathSyntax = "/<>";
+constexpr Bytes flatSyntax = "|()";
+constexpr ByteSet flatEncoded = chars("#()|");
+
+char translated(char c, Bytes syntax, Bytes other) {
+  const std::size_t place = syntax.find(c);
+  return place == Bytes::npos ? c : other[place];
+}
+
+// The byte that flat text encodes at i, NUL when it encodes none there.
+char flatDecoded(Bytes flat, std::size_t i) {
+  const char value = flat[i] == '#' ? hexPair(flat, i + 1) : '\0';
+  return flatEncoded.has(value) && !upper.has(flat[i + 2]) ? value : '\0';
+}
+
+// Whether flat text begins with a multiplicity, "(M=n)" with n not zero, as far as the number.
+bool startsMultiplicity(Bytes flat) {
+  constexpr Bytes opening = "(M=";
+  if (!startsWith(flat, opening))
+    return false;
+  std::size_t i = opening.size();
+  while (i < flat.size() && white.has(flat[i]))
+    ++i;
+  if (i < flat.size() && (flat[i] == '+' || flat[i] == '-'))
+    ++i;
+  while (i < flat.size() && flat[i] == '0')
+    ++i;
+  return i < flat.size() && digit.has(flat[i]);
+}
+
+// For a text of length characters each of which becomes at most width. (calloc watches the product.)
+char *flatBuffer(std::size_t length, std::size_t width) {
+  auto *buffer = static_cast<char *>(std::calloc(length + 1, width));
+  if (buffer == nullptr)
+    errno = ENOMEM;
+  return buffer;
+}
+
+} // namespace
+
+int zelIsLegal44ORKA(const char *name) noexcept { return orka.isLegal(nameBytes(name)) ? 1 : 0; }
+
+char *zelIdentTo44ORKA(const char *ident, zelAllocFunc alloc, void *context) noexcept {
+  return writeName(orka, ident, alloc, context);
+}
+
+char *zel44ORKAToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
+  return readName(orka, name, alloc, context);
+}
+
+int zelIsLegalEscORKA(const char *name) noexcept { return escORKA.isLegal(nameBytes(name)) ? 1 : 0; }
+
+char *zelIdentToEscORKA(const char *ident, zelAllocFunc alloc, void *context) noexcept {
+  return writeName(escORKA, ident, alloc, context);
+}
+
+char *zelEscORKAToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
+  return readName(escORKA, name, alloc, context);
+}
+
+int zelIsLegalORKA(const char *name) noexcept { return zelIsLegal44ORKA(name); }
+
+char *zelIdentToORKA(const char *ident, zelAllocFunc alloc, void *context) noexcept {
+  return zelIdentTo44ORKA(ident, alloc, context);
+}
+
+char *zelORKAToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
+  return zel44ORKAToIdent(name, alloc, context);
+}
+
+int zelIsORKANormalChar(int c) noexcept { return isIn(normal, c); }
+
+int zelIsORKAEscapableChar(int c) noexcept { return isIn(escapable, c); }
+
+char *zelORKAToORKAFlat(const char *path) noexcept {
+  if (path == nullptr) {
+    errno = EINVAL;
+    return nullptr;
+  }
+  const Bytes text = path;
+  char *flat = flatBuffer(text.size(), 3);
+  if (flat == nullptr)
+    return nullptr;
+  char *out = flat;
+  for (const char c : text) {
+    if (flatEncoded.has(c))
+      out += zelToPoundHex(out, c);
+    else
+      *out++ = translated(c, pathSyntax, flatSyntax);
+  }
+  *out = '\0';
+  return flat;
+}
+
+char *zelORKAFlatToORKA(const char *flat) noexcept {
+  if (flat == nullptr) {
+    errno = EINVAL;
+    return nullptr;
+  }
+  const Bytes text = flat;
+  char *path = flatBuffer(text.size(), 1);
+  if (path == nullptr)
+    return nullptr;
+  const std::size_t lastClose = text.rfind(')');
+  char *out = path;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char decoded = flatDecoded(text, i);
+    if (decoded != '\0') {
+      *out++ = decoded;
+      i += 2;
+    } else if (lastClose != Bytes::npos && i < lastClose && startsMultiplicity(from(text, i))) {
+      i = text.find(')', i);
+    } else {
+      *out++ = translated(text[i], flatSyntax, pathSyntax);
+    }
+  }
+  *out = '\0';
+  return path;
+}

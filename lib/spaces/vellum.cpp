@@ -1,0 +1,123 @@
+// Vellum: a case-blind name of printable characters, between quotes where one of them is syntax; or a case-sensitive
+// name between backslashes.
+#include "core/zelpvt.h"
+#include "spaces/extendedIdentifier.h"
+
+using namespace zeli;
+
+namespace {
+
+constexpr ByteSet printable = graphic | chars(" ");
+constexpr ByteSet quoteMarks = chars("'\"");
+constexpr ByteSet syntax = chars(":<\\");
+constexpr HexEscape escape = {'#', printable};
+constexpr Quoting doubledQuote = {chars("'"), '\''};
+
+bool isNormal(Bytes name) {
+  if (name.empty() || name.front() == ' ' || name.back() == ' ')
+    return false;
+  if (name.size() >= 2 && ((quoteMarks.has(name.front()) && name[1] == ' ') ||
+                           (quoteMarks.has(name.back()) && name[name.size() - 2] == ' ')))
+    return false;
+  char open = '\0'; // the quote mark that is to close the stretch
+  for (const char c : name) {
+    if (!printable.has(c))
+      return false;
+    if (c == open)
+      open = '\0';
+    else if (open == '\0' && quoteMarks.has(c))
+      open = c;
+    else if (open == '\0' && syntax.has(c))
+      return false;
+  }
+  return open == '\0';
+}
+
+// Whether "#20" stands at i for a space at either end of the name, where a plain one is not legal.
+bool isEndSpace(Bytes name, std::size_t i, char open, bool isFirst) {
+  if (hexPair(name, i + 1) != ' ')
+    return false;
+  const Bytes behind = from(name, i + 3);
+  return isFirst || behind.empty() || (behind.size() == 1 && behind[0] == open);
+}
+
+Ident readNormal(Bytes name, Text &work) {
+  char open = '\0';
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    const char c = name[i];
+    if (c == open) {
+      if (i + 1 == name.size() || name[i + 1] != open) {
+        open = '\0';
+        continue;
+      }
+      ++i; // doubled
+    } else if (open == '\0' && quoteMarks.has(c)) {
+      open = c;
+      continue;
+    } else if (c == escape.mark && (escape.isEscape(name, i) || isEndSpace(name, i, open, work.size == 0))) {
+      work.put(hexPair(name, i + 1));
+      i += 2;
+      continue;
+    }
+    work.put(c);
+  }
+  return {'I', work.view()};
+}
+
+Bytes writeNormal(Bytes body, Text &work) {
+  const bool isQuoted = !allOf(body, anyByte - syntax - quoteMarks);
+  const bool startsInSpace = body.front() == ' ';
+  const bool endsInSpace = body.size() > 1 && body.back() == ' ';
+  if (isQuoted)
+    work.put('\'');
+  if (startsInSpace)
+    escape.put(work, ' ');
+  const std::size_t start = startsInSpace ? 1 : 0;
+  encode(work, upTo(from(body, start), body.size() - start - (endsInSpace ? 1 : 0)), escape, false, doubledQuote);
+  if (endsInSpace)
+    escape.put(work, ' ');
+  if (isQuoted)
+    work.put('\'');
+  return work.view();
+}
+
+struct VellumSpace {
+  bool isLegal(Bytes name) const {
+    return isNameLength(name) && (name[0] == '\\' ? isLegalExtended(name, printable) : isNormal(name));
+  }
+
+  // Only a name between backslashes has case. In the mapping state MATCH none needs it, and the force prefix alone
+  // tells that a name stood between them.
+  Bytes write(const Ident &ident, Text &work) const {
+    const bool keepsCase = zelGetMapState() == ZEL_MAP_MATCH && ident.marker != 'F';
+    if (ident.isCaseSensitive() && (keepsCase ? isForce(ident.body) : hasUpper(ident.body)))
+      return writeExtended(work, ident.body, escape, false);
+    return writeNormal(ident.body, work);
+  }
+
+  Ident read(Bytes name, Text &work) const {
+    if (!isLegal(name))
+      return refuseIdent();
+    if (name[0] != '\\')
+      return readNormal(name, work);
+    work.put(force);
+    const bool copiedUpper = decode(work, extendedContent(name), noEscape, quotesBackslash);
+    return {'S', copiedUpper ? skipForce(work.view()) : work.view()};
+  }
+};
+
+constexpr VellumSpace space{};
+
+} // namespace
+
+int zelIsLegalVellum(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+
+char *zelIdentToVellum(const char *ident, zelAllocFunc alloc, void *context) noexcept {
+  return writeName(space, ident, alloc, context);
+}
+
+char *zelVellumToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
+  return readName(space, name, alloc, context);
+}
+
+int zelIsLegalVellumNormal(const char *name) noexcept { return isNormal(wholeBytes(name)) ? 1 : 0; }
