@@ -3,7 +3,7 @@
 
 #include "core/zelpvt.h"
 
-#include <charconv>
+#include <iterator>
 
 using namespace zeli;
 
@@ -23,13 +23,32 @@ bool endsName(std::uint8_t kind) {
   }
 }
 
+// The text of a name in front of its first node's item, which is the same for every combination that begins in the same
+// state. Kept so that its identifiers are not written anew for every bit.
+struct Prefix {
+  bool isKnown = false;
+  std::uint32_t startState = 0;
+  std::uint32_t endState = 0;
+  Bytes text;
+};
+
 // Writes one combination: the name from its start, each node's item replaced by the node's value. Returns where the
 // name ended.
-Cursor printCombination(PrintRun &run, explNode *first, const explNode *last) {
+Cursor printCombination(PrintRun &run, explNode *first, const explNode *last, Prefix &prefix) {
+  run.guard();
+  const std::uint32_t startState = run.state;
+  const std::size_t startSize = run.size;
   explNode *node = first;
   Cursor cursor = first->start;
+  if (prefix.isKnown && prefix.startState == startState) {
+    run.put(prefix.text);
+    run.state = prefix.endState;
+    cursor = first->item;
+  }
   while (!cursor.atEnd()) {
     if (node != nullptr && node->item == cursor) {
+      if (node == first)
+        prefix = {true, startState, run.state, {run.text + startSize, run.size - startSize}};
       const IndexValue value = getIndexValue(node);
       if (value.item.atEnd())
         run.value(value.number);
@@ -53,8 +72,9 @@ Cursor walkIndex(PrintRun &run, explNode *first) {
   explNode *last = first;
   while (last->next != nullptr && last->next->start == first->start)
     last = last->next;
+  Prefix prefix;
   for (;;) {
-    const Cursor end = printCombination(run, first, last);
+    const Cursor end = printCombination(run, first, last, prefix);
     explNode *node = last;
     while (incrementIndex(node)) {
       if (node == first)
@@ -103,8 +123,19 @@ PrintRun::PrintRun(const Target &printTarget, zelPath printedPath, zelHandle giv
 }
 
 void PrintRun::putNumber(std::int32_t number) {
-  const auto written = std::to_chars(text + size, std::end(text), number);
-  size = static_cast<std::size_t>(written.ptr - text);
+  if (number < 0)
+    put('-');
+  auto magnitude = static_cast<std::uint32_t>(number);
+  if (number < 0)
+    magnitude = 0 - magnitude;
+  char digits[10];
+  char *const end = std::end(digits);
+  char *first = end;
+  do {
+    *--first = static_cast<char>('0' + magnitude % 10);
+    magnitude /= 10;
+  } while (magnitude != 0);
+  put(Bytes{first, static_cast<std::size_t>(end - first)});
 }
 
 void PrintRun::putIdent(const char *ident) {

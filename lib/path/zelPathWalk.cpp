@@ -79,11 +79,12 @@ struct Release {
   }
 };
 
-// Releases what the items of a chunk own, from a position on.
+// Releases what the items of a chunk own, from a position on. It looks at every byte: number bytes are no kinds, and an
+// item that zelPathRemoveIndex cut short hides nothing behind it.
 void releaseItems(const zelPathRecord *chunk, std::size_t position, const Release &release) {
   // The mark of a reference belongs to it also when the walk starts between the two.
   bool isShared = position > 0 && byteAt(chunk, position - 1) == kindSharedMark;
-  while (position < chunk->used) {
+  for (; position < chunk->used; ++position) {
     const std::uint8_t kind = chunk->items[position];
     const Slot *slots = chunk->slots;
     if (kind == kindSharedMark) {
@@ -96,7 +97,6 @@ void releaseItems(const zelPathRecord *chunk, std::size_t position, const Releas
         release(slots[slotOf(kind) + i].string);
       isShared = false;
     }
-    position += itemSize(kind);
   }
 }
 

@@ -1,5 +1,5 @@
-// The escaped-identifier scheme of the Verilog family (IEEE 1364, 3.7.1): a name that is not a normal one stands between
-// a backslash and one blank.
+// The escaped-identifier scheme of the Verilog family (IEEE 1364, 3.7.1): a name that is not a normal one stands
+// between a backslash and one blank.
 #ifndef ZEL_SPACES_ESCAPEDIDENTIFIER_H
 #define ZEL_SPACES_ESCAPEDIDENTIFIER_H
 

@@ -51,8 +51,7 @@ Bytes ExtendedIdentifierSpace::write(const Ident &ident, Text &work) const {
   const Bytes body = ident.body;
 
   // Capitals matter in a case-sensitive name; under VHDL and TANDEM compatibility in a case-insensitive one.
-  const bool caseMatters =
-      (state != ZEL_MAP_MATCH || ident.marker == 'F') && isSensitive != isCompatibility(state);
+  const bool caseMatters = (state != ZEL_MAP_MATCH || ident.marker == 'F') && isSensitive != isCompatibility(state);
   const bool isBasic = isNormal(body);
   const bool keepsCapitals = !caseMatters || !hasUpper(body);
   if (isBasic && keepsCapitals && (!isSensitive || !isForce(body)))

@@ -55,7 +55,7 @@ bool isDigitStartName(Bytes name) {
     return false;
   if (allOf(name, digit))
     return true;
-  enum { leadingDigits, letters, digits, rest } phase = leadingDigits;
+  enum { leadingDigits, letters, rest } phase = leadingDigits;
   for (std::size_t i = 1; i < name.size(); ++i) {
     const char c = name[i];
     if (c == '\\') {
@@ -71,21 +71,16 @@ bool isDigitStartName(Bytes name) {
       break;
     case letters:
       if (digit.has(c))
-        phase = digits;
+        phase = rest;
       else if (!first.has(c))
         return false;
       break;
-    case digits:
-      if (digit.has(c))
-        break;
-      phase = rest;
-      [[fallthrough]];
     case rest:
       if (!nonFirst.has(c))
         return false;
     }
   }
-  return phase >= digits;
+  return phase == rest;
 }
 
 struct KirraSpace : BackslashSpace {

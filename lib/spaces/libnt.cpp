@@ -29,13 +29,13 @@ bool quotesLetter(Bytes name, std::size_t i) {
   return name[i] == '%' && i + 1 < name.size() && letter.has(name[i + 1]);
 }
 
-struct LibraryNTSpace {
+struct LibraryNTSpace : ClassEscapeSpace {
   bool isLegal(Bytes name) const {
     if (!isNameLength(name) || isReserved(name))
       return false;
     if (startsWith(name, reservedPrefix))
       return isReserved(from(name, reservedPrefix.size()));
-    return isMadeOf(fileNameChar, name, 0, name.size(), quotesLetter);
+    return isMadeOf(escape.literal, name, 0, name.size(), quotesLetter);
   }
 
   // A case-insensitive name keeps its capitals; they do not matter to the file system.
@@ -47,7 +47,7 @@ struct LibraryNTSpace {
       return work.view();
     }
     const bool capitalsMatter = isSensitive && (ident.marker == 'F' || zelGetMapState() != ZEL_MAP_MATCH);
-    encode(work, ident.body, fileNameEscape, false, {capitalsMatter ? upper : ByteSet{}, '%'});
+    encode(work, ident.body, escape, false, {capitalsMatter ? upper : ByteSet{}, '%'});
     return work.view();
   }
 
@@ -57,19 +57,19 @@ struct LibraryNTSpace {
     if (startsWith(name, reservedPrefix))
       return {'I', from(name, reservedPrefix.size())};
     if (name.find('%') == Bytes::npos) {
-      decode(work, name, fileNameEscape, quotesNothing);
+      decode(work, name, escape, quotesNothing);
       return {'I', work.view()};
     }
     // With '%', every capital that matters stands behind one, and the file system may have changed the case of all.
     Text spelled;
     for (std::size_t i = 0; i < name.size(); ++i)
       spelled.put(i > 0 && name[i - 1] == '%' ? toUpper(name[i]) : toLower(name[i]));
-    decode(work, spelled.view(), fileNameEscape, quotesLetter);
+    decode(work, spelled.view(), escape, quotesLetter);
     return {'S', work.view()};
   }
 };
 
-constexpr LibraryNTSpace space{};
+constexpr LibraryNTSpace space = {{fileNameEscape}};
 
 } // namespace
 

@@ -12,10 +12,6 @@ namespace {
 constexpr ByteSet normal = graphic - chars("(),/<>\\");
 constexpr ByteSet escapable = graphic | chars(" ");
 
-constexpr HexEscape escape = {'#', normal};
-constexpr HexEscape extendedEscape = {'#', escapable};
-constexpr HexEscape extendedEscapeWritten = {'#', escapable, false};
-
 // The length of the index group at i; 0 when none stands there. A name does not begin with one.
 std::size_t indexGroup(Bytes name, std::size_t i) {
   if (i == 0 || name[i] != '(')
@@ -27,6 +23,8 @@ std::size_t indexGroup(Bytes name, std::size_t i) {
 }
 
 struct ORKASpace {
+  HexEscape escape;
+
   bool isLegal(Bytes name) const {
     if (!isNameLength(name))
       return false;
@@ -34,7 +32,7 @@ struct ORKASpace {
       const std::size_t group = indexGroup(name, i);
       if (group != 0)
         i += group - 1;
-      else if (!normal.has(name[i]))
+      else if (!escape.literal.has(name[i]))
         return false;
     }
     return true;
@@ -62,20 +60,23 @@ struct ORKASpace {
   }
 };
 
-constexpr ORKASpace orka{};
+constexpr ORKASpace orka = {{'#', normal}};
 
 struct EscORKASpace {
+  HexEscape readerEscape;
+  HexEscape writerEscape;
+
   bool isLegal(Bytes name) const {
     if (!isNameLength(name))
       return false;
-    return name[0] == '\\' ? isLegalExtended(name, escapable) : orka.isLegal(name);
+    return name[0] == '\\' ? isLegalExtended(name, readerEscape.literal) : orka.isLegal(name);
   }
 
   Bytes write(const Ident &ident, Text &work) const {
     const bool folds = foldsCase(ident);
     const bool wasExtended = ident.isCaseSensitive() && isForce(ident.body);
     if (wasExtended || !orka.isLegal(ident.body))
-      return writeExtended(work, ident.body, extendedEscapeWritten, folds);
+      return writeExtended(work, ident.body, writerEscape, folds);
     if (!folds)
       return ident.body;
     encode(work, ident.body, noEscape, true);
@@ -88,11 +89,11 @@ struct EscORKASpace {
       return refuseIdent();
     if (orka.isLegal(name))
       return {'S', name};
-    return readExtended(name, work, extendedEscape, false, [](Bytes plain) { return orka.isLegal(plain); });
+    return readExtended(name, work, readerEscape, false, [](Bytes plain) { return orka.isLegal(plain); });
   }
 };
 
-constexpr EscORKASpace escORKA{};
+constexpr EscORKASpace escORKA = {{'#', escapable}, {'#', escapable, false}};
 
 // Flat ORKA spells the syntax of a path with characters that are plain text elsewhere, and encodes these.
 constexpr Bytes pathSyntax = "/<>";

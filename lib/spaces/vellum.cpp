@@ -7,13 +7,45 @@ using namespace zeli;
 
 namespace {
 
-constexpr ByteSet printable = graphic | chars(" ");
 constexpr ByteSet quoteMarks = chars("'\"");
 constexpr ByteSet syntax = chars(":<\\");
-constexpr HexEscape escape = {'#', printable};
 constexpr Quoting doubledQuote = {chars("'"), '\''};
 
-bool isNormal(Bytes name) {
+struct VellumSpace {
+  HexEscape escape;
+
+  bool isNormal(Bytes name) const;
+  Bytes writeNormal(Bytes body, Text &work) const;
+  Ident readNormal(Bytes name, Text &work) const;
+
+  bool isLegal(Bytes name) const {
+    return isNameLength(name) && (name[0] == '\\' ? isLegalExtended(name, escape.literal) : isNormal(name));
+  }
+
+  // Only a name between backslashes has case. In the mapping state MATCH none needs it, and the force prefix alone
+  // tells that a name stood between them.
+  Bytes write(const Ident &ident, Text &work) const {
+    const bool keepsCase = zelGetMapState() == ZEL_MAP_MATCH && ident.marker != 'F';
+    if (ident.isCaseSensitive() && (keepsCase ? isForce(ident.body) : hasUpper(ident.body)))
+      return writeExtended(work, ident.body, escape, false);
+    return writeNormal(ident.body, work);
+  }
+
+  // Between backslashes nothing is an escape.
+  Ident read(Bytes name, Text &work) const {
+    if (!isLegal(name))
+      return refuseIdent();
+    if (name[0] != '\\')
+      return readNormal(name, work);
+    work.put(force);
+    const bool copiedUpper = decode(work, extendedContent(name), noEscape, quotesBackslash);
+    return {'S', copiedUpper ? skipForce(work.view()) : work.view()};
+  }
+};
+
+constexpr VellumSpace space = {{'#', graphic | chars(" ")}};
+
+bool VellumSpace::isNormal(Bytes name) const {
   if (name.empty() || name.front() == ' ' || name.back() == ' ')
     return false;
   if (name.size() >= 2 && ((quoteMarks.has(name.front()) && name[1] == ' ') ||
@@ -21,7 +53,7 @@ bool isNormal(Bytes name) {
     return false;
   char open = '\0'; // the quote mark that is to close the stretch
   for (const char c : name) {
-    if (!printable.has(c))
+    if (!escape.literal.has(c))
       return false;
     if (c == open)
       open = '\0';
@@ -41,7 +73,7 @@ bool isEndSpace(Bytes name, std::size_t i, char open, bool isFirst) {
   return isFirst || behind.empty() || (behind.size() == 1 && behind[0] == open);
 }
 
-Ident readNormal(Bytes name, Text &work) {
+Ident VellumSpace::readNormal(Bytes name, Text &work) const {
   char open = '\0';
   for (std::size_t i = 0; i < name.size(); ++i) {
     const char c = name[i];
@@ -64,7 +96,7 @@ Ident readNormal(Bytes name, Text &work) {
   return {'I', work.view()};
 }
 
-Bytes writeNormal(Bytes body, Text &work) {
+Bytes VellumSpace::writeNormal(Bytes body, Text &work) const {
   const bool isQuoted = !allOf(body, anyByte - syntax - quoteMarks);
   const bool startsInSpace = body.front() == ' ';
   const bool endsInSpace = body.size() > 1 && body.back() == ' ';
@@ -81,33 +113,6 @@ Bytes writeNormal(Bytes body, Text &work) {
   return work.view();
 }
 
-struct VellumSpace {
-  bool isLegal(Bytes name) const {
-    return isNameLength(name) && (name[0] == '\\' ? isLegalExtended(name, printable) : isNormal(name));
-  }
-
-  // Only a name between backslashes has case. In the mapping state MATCH none needs it, and the force prefix alone
-  // tells that a name stood between them.
-  Bytes write(const Ident &ident, Text &work) const {
-    const bool keepsCase = zelGetMapState() == ZEL_MAP_MATCH && ident.marker != 'F';
-    if (ident.isCaseSensitive() && (keepsCase ? isForce(ident.body) : hasUpper(ident.body)))
-      return writeExtended(work, ident.body, escape, false);
-    return writeNormal(ident.body, work);
-  }
-
-  Ident read(Bytes name, Text &work) const {
-    if (!isLegal(name))
-      return refuseIdent();
-    if (name[0] != '\\')
-      return readNormal(name, work);
-    work.put(force);
-    const bool copiedUpper = decode(work, extendedContent(name), noEscape, quotesBackslash);
-    return {'S', copiedUpper ? skipForce(work.view()) : work.view()};
-  }
-};
-
-constexpr VellumSpace space{};
-
 } // namespace
 
 int zelIsLegalVellum(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
@@ -120,4 +125,4 @@ char *zelVellumToIdent(const char *name, zelAllocFunc alloc, void *context) noex
   return readName(space, name, alloc, context);
 }
 
-int zelIsLegalVellumNormal(const char *name) noexcept { return isNormal(wholeBytes(name)) ? 1 : 0; }
+int zelIsLegalVellumNormal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }

@@ -44,8 +44,9 @@ static_assert(keywords.words() == 97);
 // clang-format on
 
 // Reserved since VHDL-93.
-constexpr const char *VHDL93Keywords[] = {"group", "impure", "inertial", "literal", "postponed", "pure", "reject", "rol", "ror", "shared",
-    "sla", "sll", "sra", "srl", "unaffected", "xnor"};
+constexpr const char *VHDL93Keywords[] = {"group",  "impure", "inertial",   "literal", "postponed", "pure",
+                                          "reject", "rol",    "ror",        "shared",  "sla",       "sll",
+                                          "sra",    "srl",    "unaffected", "xnor"};
 
 // Whether ZEL_USE_VHDL87_KEYWORDS asks for VHDL-87, kept from its first reading on.
 enum EnvironmentMode { unread, notSet, set };
