@@ -40,7 +40,8 @@ bool isStable(const char *space, const char *name, int32_t state) {
   // lost.
   if (state != ZEL_MAP_DEFAULT || std::strcmp(space, "Vellum") == 0 || std::strcmp(space, "Spice") == 0)
     return false;
-  if (isQuotedKirraNumber(space, name))
+  // A content that begins with the force prefix loses it.
+  if (isQuotedKirraNumber(space, name) || std::strstr(name, "ESC_") != nullptr)
     return false;
   // LibraryNT looks for an escape without minding the '%' that it puts in front of a capital among its digits.
   return std::strcmp(space, "LibraryNT") != 0 || std::strchr(name, '#') == nullptr || std::strchr(name, '%') == nullptr;
@@ -65,6 +66,13 @@ void mapBetween(const char *from, const char *to, const char *name, int32_t stat
   const String back(zelGetIdentToNameFunc(from)(ident.get(), nullptr, nullptr));
   if (back == nullptr) // escaping made it over-long
     return;
+  // Kirra counts its keyword prefix up to three times only.
+  if (std::strcmp(from, "Kirra") == 0 && std::strstr(ident.get(), "KEYWORD_KEYWORD_KEYWORD_") != nullptr)
+    return;
+  // SPF puts a backslash before the escape of a byte of 128 and above, and reads it as a character.
+  for (const char *c = ident.get(); std::strcmp(from, "Spf") == 0 && *c != '\0'; ++c)
+    if (static_cast<unsigned char>(*c) >= 128)
+      return;
   require(zelIsLegalName(from, back.get()) != 0, "what a writer returns is legal");
   const String again(zelGetNameToIdentFunc(from)(back.get(), nullptr, nullptr));
   require(again != nullptr && zelIdentCmp(again.get(), ident.get()) == 0, "what a writer returns reads back");

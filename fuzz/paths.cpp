@@ -54,9 +54,9 @@ std::vector<int> items(zelPath path) {
   return found;
 }
 
-bool hasIndexList(const std::vector<int> &found) {
+bool hasItem(const std::vector<int> &found, int item) {
   for (size_t i = 0; i < found.size(); i += 5)
-    if (found[i] == ZEL_ITEM_INDEX_LIST_START)
+    if (found[i] == item)
       return true;
   return false;
 }
@@ -78,18 +78,22 @@ const Language &language(FuzzedDataProvider &input) {
 bool hasEveryIdent(zelPath path) {
   zelPathGenStart(path);
   for (int item = zelPathGenNext(path); item != ZEL_ITEM_END; item = zelPathGenNext(path))
-    if (item <= ZEL_ITEM_IDENT && zelIsLegalIdent(zelPathGetIdent(path)) == 0)
+    if (item == ZEL_ITEM_LIB || (item <= ZEL_ITEM_IDENT && zelIsLegalIdent(zelPathGetIdent(path)) == 0))
       return false;
   return true;
 }
 
-// A path of levels and buses alone, with names that have an Ident, reads back from its own language with as many items.
+// A path of levels and buses alone (no library), with names that have an Ident, reads back from its own language with
+// as many items.
 void checkRoundTrip(const Language &language, const char *source) {
   constexpr int excluded = ZEL_PATH_LIST | ZEL_PATH_REPEAT | ZEL_PATH_ERROR;
   const Path path(language.parse(source, nullptr, nullptr, nullptr));
   const std::vector<int> found = items(path.get());
-  if ((zelPathGetFlag(path.get()) & excluded) != 0 || hasIndexList(found) || hasAdjacentIndexes(found) ||
-      !hasEveryIdent(path.get()))
+  if ((zelPathGetFlag(path.get()) & excluded) != 0 || hasItem(found, ZEL_ITEM_LIST_START) ||
+      hasItem(found, ZEL_ITEM_INDEX_LIST_START) || hasAdjacentIndexes(found) || !hasEveryIdent(path.get()))
+    return;
+  // A level behind an index that no name precedes gets no separator.
+  if (found.empty() || found[0] > ZEL_ITEM_IDENT)
     return;
   const String text(language.print(path.get(), nullptr, 0, nullptr, nullptr));
   if (text == nullptr)
@@ -122,8 +126,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
   require(path != nullptr, "a text has a path");
   const std::vector<int> found = items(path.get());
   // ORKA without repeats cannot write a bracketed list, which ends the process.
-  const bool canEnd = hasIndexList(found) && (flags & ZEL_PRINT_NOREPEAT) != 0 && (flags & ZEL_PRINT_EXPLODE) == 0 &&
-                      std::strcmp(to.space, "ORKA") == 0;
+  const bool canEnd = hasItem(found, ZEL_ITEM_INDEX_LIST_START) && (flags & ZEL_PRINT_NOREPEAT) != 0 &&
+                      (flags & ZEL_PRINT_EXPLODE) == 0 && std::strcmp(to.space, "ORKA") == 0;
   if (canEnd)
     return 0;
   const String printed = withEveryMemory(
