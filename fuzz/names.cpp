@@ -29,7 +29,8 @@ void checkIdent(const char *ident) {
   require(std::strlen(ident) <= ZEL_MAX_NAME + 1, "length of an Ident");
 }
 
-// In a Kirra name that begins with a digit a backslash stands before anything, but reads only before what it can quote.
+// In a Kirra name that begins with a digit a backslash may stand before anything and is written as it is, but what it
+// quotes is read.
 bool isQuotedKirraNumber(const char *space, const char *name) {
   return std::strcmp(space, "Kirra") == 0 && *name >= '0' && *name <= '9' && std::strchr(name, '\\') != nullptr;
 }
@@ -61,7 +62,7 @@ void mapBetween(const char *from, const char *to, const char *name, int32_t stat
   // Only a force prefix can make the Ident of a legal name over-long.
   if (zelIsLegalName(from, name) != 0 && !isQuotedKirraNumber(from, name))
     require(ident != nullptr || std::strlen(name) > ZEL_MAX_NAME - 6, "a legal name has an Ident");
-  if (zelIsLegalIdent(ident.get()) == 0 || !isStable(from, name, state))
+  if (zelIsLegalIdent(ident.get()) == 0 || !isStable(from, name, state) || isQuotedKirraNumber(from, ident.get() + 1))
     return;
   const String back(zelGetIdentToNameFunc(from)(ident.get(), nullptr, nullptr));
   if (back == nullptr) // escaping made it over-long
