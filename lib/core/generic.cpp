@@ -1,7 +1,7 @@
 // The registry: from the name of a space to the space.
 #include "core/registry.h"
 
-#include "core/text.h"
+#include "core/zelpvt.h"
 
 using namespace zeli;
 

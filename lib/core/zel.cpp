@@ -73,11 +73,21 @@ struct Arena {
   }
 };
 
-char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flags, zelAllocFunc alloc, void *context) {
-  if (text == nullptr || from == nullptr || to == nullptr) {
+// The handle of a space in place of a null one; errno tells why there is none.
+zelHandle handleOf(const char *spaceName) {
+  const int error = errno;
+  errno = 0;
+  const zelHandle handle = zelGetHandle(spaceName, 0, 0, 0, 0);
+  if (handle != nullptr)
+    errno = error;
+  else if (errno == 0)
     errno = EINVAL;
+  return handle;
+}
+
+char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flags, zelAllocFunc alloc, void *context) {
+  if (from == nullptr || to == nullptr)
     return nullptr;
-  }
   Arena arena;
   const zelPath path = from->varBits->parse(text, from, Arena::allocate, &arena);
   if (path == nullptr)
@@ -188,8 +198,8 @@ char *zelPathMapper(const char *text, zelHandle fromHandle, zelHandle toHandle, 
 
 char *zelPathMapperEx(const char *text, zelHandle fromHandle, zelHandle toHandle, std::uint32_t flags,
                       const char *fromName, const char *toName, zelAllocFunc alloc, void *context) noexcept {
-  const zelHandle from = fromHandle != nullptr ? fromHandle : zelGetHandle(fromName, 0, 0, 0, 0);
-  const zelHandle to = toHandle != nullptr ? toHandle : zelGetHandle(toName, 0, 0, 0, 0);
+  const zelHandle from = fromHandle != nullptr ? fromHandle : handleOf(fromName);
+  const zelHandle to = toHandle != nullptr ? toHandle : handleOf(toName);
   char *result = mapPath(text, from, to, flags, alloc, context);
   if (fromHandle == nullptr)
     zelFreeHandle(from);

@@ -44,7 +44,8 @@ extern "C" {
  *
  * The allocator convention: an operation that makes a string takes (alloc, context) as its last two arguments.
  *   alloc non-null                    the result is written into alloc(size, context), with the exact size;
- *   alloc null, context non-null      context is the caller's buffer: 2048 bytes hold any name, 2049 any Ident;
+ *   alloc null, context non-null      context is the caller's buffer: 2048 bytes hold any name, 2049 any Ident; it
+ *                                     may be the input's own memory;
  *   both null                         the result comes from malloc and is released with free.
  * An alloc that returns null makes the operation fail with ENOMEM.
  */
@@ -522,14 +523,16 @@ ZEL_API extern const zelHandle zelSpefHandle;
 ZEL_API extern const zelHandle zelDefHandle;
 ZEL_API extern const zelHandle zelLefHandle;
 
-/* The handle of a space. The low byte of each of the four characters counts, 0 keeps the default. Where the format
- * fixes its characters they are ignored and the built-in handle returned; where a file may redefine them (GCF, SDF,
- * SPF, SPEF, DEF, LEF; FlatTessel its brackets) other characters give a new handle, to be released with
- * zelFreeHandle. Null for a space without path form, or with ENOMEM. */
+/* The handle of the space that spaceName selects (as zelGetSpaceByName does). The low byte of each of the four
+ * characters counts, 0 keeps the default. Where the format fixes its characters they are ignored and the built-in
+ * handle returned; where a file may redefine them (GCF, SDF, SPF, SPEF, DEF, LEF; FlatTessel its brackets) other
+ * characters give a new handle, to be released with zelFreeHandle. So does a name with 'L' of more than three
+ * characters ("Library"), for which LEF stands in. Null for a space without path form, or with ENOMEM. */
 ZEL_API zelHandle zelGetHandle(const char *spaceName, uint32_t pinDelimiter, uint32_t divider, uint32_t busOpen,
                                uint32_t busClose) ZEL_NOEXCEPT;
 
-/* Always a new handle, for a space whose characters a file may redefine; null for any other. */
+/* Always a new handle, for a space whose characters a file may redefine (LEF for every name with 'L'); null for any
+ * other, or with ENOMEM. */
 ZEL_API zelHandle zelAllocHandle(const char *spaceName, uint32_t pinDelimiter, uint32_t divider, uint32_t busOpen,
                                  uint32_t busClose) ZEL_NOEXCEPT;
 

@@ -1,4 +1,5 @@
-#include "core/zel.h"
+// The ring allocator.
+#include "core/zelpvt.h"
 
 #include <cerrno>
 #include <cstdint>

@@ -1,3 +1,4 @@
+// The helpers that all translators share, and the mapping state.
 #include "core/zelpvt.h"
 
 #include "core/hexEscape.h"
@@ -65,7 +66,7 @@ char *makeString(Bytes text, zelAllocFunc alloc, void *context) {
   auto *result = static_cast<char *>(allocate(text.size() + 1, alloc, context));
   if (result == nullptr)
     return nullptr;
-  std::memcpy(result, text.data(), text.size());
+  std::memmove(result, text.data(), text.size());
   result[text.size()] = '\0';
   return result;
 }
@@ -81,13 +82,17 @@ char *makeIdent(const Ident &ident, zelAllocFunc alloc, void *context) {
   auto *result = static_cast<char *>(allocate(body.size() + 2, alloc, context));
   if (result == nullptr)
     return nullptr;
+  std::memmove(result + 1, body.data(), body.size());
   result[0] = ident.marker;
-  std::memcpy(result + 1, body.data(), body.size());
   result[body.size() + 1] = '\0';
   return result;
 }
 
-bool foldsCase(const Ident &ident) { return !ident.isCaseSensitive() && zelGetMapState() != ZEL_MAP_MATCH; }
+bool foldsCase(const Ident &ident) {
+  // Also a case-sensitive Ident is a first use that determines the state.
+  const std::int32_t state = zelGetMapState();
+  return !ident.isCaseSensitive() && state != ZEL_MAP_MATCH;
+}
 
 bool tableHas(const char *const *table, std::int32_t count, Bytes key) {
   constexpr std::int32_t scannedWhole = 4;

@@ -14,8 +14,8 @@ namespace zeli {
 // size bytes under the allocator convention; null with ENOMEM.
 void *allocate(std::size_t size, zelAllocFunc alloc, void *context);
 
-// The one copy at the end of an operation. Null for a text without data (errno is then the writer's), EINVAL for an
-// over-long one.
+// The one copy at the end of an operation; text may lie in the caller's buffer that it goes to. Null for a text without
+// data (errno is then the writer's), EINVAL for an over-long one.
 char *makeString(Bytes text, zelAllocFunc alloc, void *context);
 char *makeIdent(const Ident &ident, zelAllocFunc alloc, void *context);
 

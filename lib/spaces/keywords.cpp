@@ -1,3 +1,4 @@
+// Keyword lookup and self-check.
 #include "spaces/keywords.h"
 
 #include "core/zelpvt.h"

@@ -4,7 +4,9 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -74,6 +76,34 @@ inline Outcome runTool(const Words &arguments, const Environment &environment = 
   if (ended)
     outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : 256 + WTERMSIG(status);
   return outcome;
+}
+
+// What zelpath prints for a path that option reads: a line for each language, its own last. In texts stands first the
+// text that the languages share; then, behind "; " each, the short names of those that differ and their text.
+inline std::string linesOf(const std::string &option, const std::string &texts) {
+  const std::pair<std::string, std::string> languages[] = {
+      {"veri", "Verilog: "},     {"tessel", "Tessel:    "}, {"kirra", "Kirra:    "}, {"gcf", "Gcf:    "},
+      {"hdl", "KirraHDL:    "}, {"spice", "Spice:    "},   {"orka", "ORKA:    "},   {"vhdl", "VHDL:    "},
+  };
+  std::map<std::string, std::string> textOf;
+  size_t end = texts.find("; ");
+  for (const auto &[name, label] : languages)
+    textOf[name] = texts.substr(0, end);
+  while (end != std::string::npos) {
+    const size_t start = end + 2;
+    end = texts.find("; ", start);
+    const std::string differing = texts.substr(start, end == std::string::npos ? end : end - start);
+    const size_t blank = differing.find(' ');
+    std::istringstream names(differing.substr(0, blank));
+    for (std::string name; std::getline(names, name, ',');)
+      textOf.at(name) = differing.substr(blank + 1);
+  }
+  const std::string input = option == "-spice" ? "hdl" : option.substr(1);
+  std::string lines;
+  std::string own;
+  for (const auto &[name, label] : languages)
+    (name == input ? own : lines) += label + textOf.at(name) + "\n";
+  return lines + own;
 }
 
 #endif

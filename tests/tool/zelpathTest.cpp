@@ -74,9 +74,9 @@ const std::string fullUsage = R"( ZELPATH command lines include a language optio
   % zelpath -veri "top.test.addr[3:0]"
 )";
 
-// The path "a" in every language, read as Verilog and read as VHDL: the input's own line comes last.
-const std::string verilogA = "VHDL:    a\nVerilog: a\n";
-const std::string vhdlA = "Verilog: a\nVHDL:    a\n";
+// The path "a", read as Verilog and read as VHDL.
+const std::string verilogA = linesOf("-veri", "a");
+const std::string vhdlA = linesOf("-vhdl", "a");
 
 const std::string given = "Error: path already given\n";
 const std::string wrongMap = "Error: See the correct usage.\n";
@@ -162,8 +162,8 @@ TEST(Options, Paths) {
       {{"-vhdl", "-verilog", "a"}, wants("-vhdl") + verilogA},
       {{"-vhdl", "-", "a"}, wants("-vhdl") + ambiguous("-") + fullUsage + verilogA},
       // An empty path is a path.
-      {{"", "a"}, given + "VHDL:    \nVerilog: \n"},
-      {{"-veri", "", "a"}, given + "VHDL:    \nVerilog: \n"},
+      {{"", "a"}, given + linesOf("-veri", "")},
+      {{"-veri", "", "a"}, given + linesOf("-veri", "")},
   });
 }
 
@@ -222,95 +222,6 @@ TEST(Map, Failures) {
       {{"-map", "-ve", "VHDL", "top.a"}, quitting, "Could not get handle for the namespace:-ve\n"},
       {{"-map", "VerilogA", "VHDL", "top.a"}, quitting, "Could not get handle for the namespace:VerilogA\n"},
       {{"-map", "Verilog", "VHDL", "a["}, "Could not map the path. Please check the path and try.\n"},
-  });
-}
-
-TEST(Translation, OutputOptions) {
-  check({
-      {{"-veri", "top.test.addr[3:0]"}, "VHDL:    :top:test:addr(3 downto 0)\nVerilog: top.test.addr[3:0]\n"},
-      {{"-veri", "a.b[2:0]", "-ex"}, "VHDL:    :a:b(2),:a:b(1),:a:b(0)\nVerilog: a.b[2],a.b[1],a.b[0]\n"},
-      {{"-e", "-gr", "a[0:1]"}, "VHDL:    a(0)&&a(1)\nVerilog: a[0],a[1]\n"},
-      {{"-vhdl", "a(1 to 2)", "-ex"}, "Verilog: a[1],a[2]\nVHDL:    a(1),a(2)\n"},
-      // Braces are for a list; the input's own line is printed from a copy that does not know of having one.
-      {{"-vhdl", "a,b", "-group"}, "Verilog: {a,b}\nVHDL:    a&&b\n"},
-      {{"-veri", "a,b", "-group"}, "VHDL:    a&&b\nVerilog: a,b\n"},
-      {{"-norepeat", "-nocomplex", "-top", "{2{a,b}}"}, "VHDL:    !ERROR!a&&b\nVerilog: {2{a,b}}\n"},
-      // Nor does the copy of a VHDL path know of its hierarchy, except by a library reference.
-      {{"-vhdl", ":top:u1(3)"}, "Verilog: top.u1[3]\nVHDL:    topu1(3)\n"},
-      {{"-vhdl", "@lib.cell(view):u1"}, "Verilog: u1\nVHDL:    @lib.cell(view):u1\n"},
-  });
-}
-
-TEST(Translation, Dump) {
-  check({
-      {{"-parse", "top.test.addr[3:0]"},
-       "Flags: Hierarchy Range SingleVerilog SingleORKA SingleVHDL \n Ident top\n Ident test\n Ident addr\n"
-       " Range:  3:0\n\nVHDL:    :top:test:addr(3 downto 0)\nVerilog: top.test.addr[3:0]\n"},
-      {{"-parse", "a[-200].b[7:0].c[1]"},
-       "Flags: Hierarchy Index Range MidIndex MidRange SingleVerilog SingleORKA SingleVHDL \n Ident a\n Index:  -200\n"
-       " Ident b\n Range:  7:0\n Ident c\n Index:  1\n\n"
-       "VHDL:    :a(-200):b(7 downto 0):c(1)\nVerilog: a[-200].b[7:0].c[1]\n"},
-      // The name as it was written, and no Single flag for a list or a repeat.
-      {{"-parse", "{2{\\a+b ,c}}"},
-       "Flags: List Repeat \n Start list\n Repeat: 2\n Start list\n Ident \\a+b \n List\n Ident c\n Finish list\n"
-       " Finish list\n\nVHDL:    !ERROR!\\a+b\\&&c\nVerilog: {2{\\a+b ,c}}\n"},
-      // A VHDL range counts as an index too.
-      {{"-vhdl", "A(7 downto 0)", "-parse"},
-       "Flags: Index Range SingleVerilog SingleORKA SingleVHDL \n Ident A\n Range:  7:0\n\n"
-       "Verilog: a[7:0]\nVHDL:    A(7 downto 0)\n"},
-      // The parts of a library reference in the input's language, with both marks whatever is missing.
-      {{"-vhdl", "@Lib.\\a b\\(view):u1", "-parse"},
-       "Flags: Hierarchy SingleVerilog SingleORKA SingleVHDL \n Lib: Lib.\\a b\\:view\n Ident u1\n\n"
-       "Verilog: u1\nVHDL:    @Lib.\\a b\\(view):u1\n"},
-      {{"-vhdl", "@cell", "-parse"},
-       "Flags: SingleVerilog SingleORKA SingleVHDL \n Lib: .cell:\n\nVerilog: \nVHDL:    @cell\n"},
-      {{"-parse", ""}, "Flags: SingleVerilog SingleORKA SingleVHDL \n\nVHDL:    \nVerilog: \n"},
-  });
-}
-
-TEST(Translation, WhatWasReadOfARefusedPathIsPrinted) {
-  check({
-      {{"-parse", "a["}, "Flags: ERROR! SingleVerilog SingleORKA SingleVHDL \n Ident a\n\nVHDL:    a\nVerilog: a\n"},
-      {{"-parse", "a.module"},
-       "Flags: ERROR! Hierarchy SingleVerilog SingleORKA SingleVHDL \n Ident a\n\nVHDL:    :a\nVerilog: a\n"},
-      {{"-vhdl", "", "-p"}, "Flags: ERROR! SingleVerilog SingleORKA SingleVHDL \n\nVerilog: \nVHDL:    \n"},
-      {{"-vhdl", "\\ab"}, "Verilog: \nVHDL:    \n"},
-  });
-}
-
-TEST(Translation, LongPaths) {
-  // 1024 levels make 2047 characters in Verilog, which is the limit, and 2048 in VHDL, which is beyond it.
-  std::string levels = "a";
-  for (int level = 1; level < 1024; ++level)
-    levels += ".a";
-  const std::string name(2047, 'n');
-  std::string many;
-  std::string dump;
-  for (int level = 0; level < 50'000; ++level) {
-    many += level > 0 ? ".a" : "a";
-    dump += " Ident a\n";
-  }
-  check({
-      {{levels}, "VHDL:    (null)\nVerilog: " + levels + "\n"},
-      {{levels + ".a"}, "VHDL:    (null)\nVerilog: (null)\n"},
-      {{name}, "VHDL:    " + name + "\nVerilog: " + name + "\n"},
-      {{"a." + name + "n"}, "VHDL:    :a\nVerilog: a\n"},
-      {{many, "-parse"},
-       "Flags: Hierarchy SingleVerilog SingleORKA SingleVHDL \n" + dump + "\nVHDL:    (null)\nVerilog: (null)\n"},
-      {{"-map", "VHDL", levels, "a"}, quitting, "Could not get handle for the namespace:" + levels + "\n"},
-  });
-}
-
-TEST(Environment, ReachesTheTranslators) {
-  const Environment match = {{"VRN_ALT_ZEL", "Match"}};
-  const Environment yes = {{"ZEL_USE_VHDL87_KEYWORDS", "YES"}};
-  const Environment otherYes = {{"ZEL_USE_VHDL87_KEYWORDS", "Yes"}};
-  check({
-      {{"-vhdl", "Top"}, "Verilog: top\nVHDL:    Top\n"},
-      {{"-vhdl", "Top"}, "Verilog: Top\nVHDL:    Top\n", "", match},
-      {{"-veri", "pure.a"}, "VHDL:    :\\pure\\:a\nVerilog: pure.a\n"},
-      {{"-veri", "pure.a"}, "VHDL:    :pure:a\nVerilog: pure.a\n", "", yes},
-      {{"-veri", "pure.a"}, "VHDL:    :\\pure\\:a\nVerilog: pure.a\n", "", otherYes},
   });
 }
 
