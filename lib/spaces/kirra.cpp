@@ -49,7 +49,7 @@ bool needsPrefix(Bytes name) {
   return false;
 }
 
-// Digits only, or digits, letters and digits with anything unescaped behind them, as in 2n3904.
+// Digits only, or digits, letters and digits as in 2n3904; a backslash hides the byte behind it from this rule.
 bool isDigitStartName(Bytes name) {
   if (name.empty() || keywords.has(name))
     return false;

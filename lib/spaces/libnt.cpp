@@ -61,10 +61,16 @@ struct LibraryNTSpace : ClassEscapeSpace {
       return {'I', work.view()};
     }
     // With '%', every capital that matters stands behind one, and the file system may have changed the case of all.
-    Text spelled;
-    for (std::size_t i = 0; i < name.size(); ++i)
-      spelled.put(i > 0 && name[i - 1] == '%' ? toUpper(name[i]) : toLower(name[i]));
-    decode(work, spelled.view(), escape, quotesLetter);
+    for (std::size_t i = 0; i < name.size(); ++i) {
+      if (name[i] == '%') {
+        work.put(toUpper(name[++i]));
+      } else if (name[i] == fileNameEscape.mark && fileNameEscape.isEscape(name, i)) {
+        work.put(hexPair(name, i + 1));
+        i += 2;
+      } else {
+        work.put(toLower(name[i]));
+      }
+    }
     return {'S', work.view()};
   }
 };
