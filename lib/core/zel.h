@@ -554,7 +554,7 @@ enum {
 };
 
 /* Parses text with the parser of fromHandle and prints it with the printer of toHandle under the ZEL_PRINT_ flags.
- * A null handle is looked up by the name beside it. Null when text is null, does not parse, or its printed form has
+ * A null handle is looked up by the name beside it. Null when text is null or does not parse, or its printed form has
  * more than 2047 characters (EINVAL), or when a name without handle stands for a null handle (EINVAL), or ENOMEM. */
 ZEL_API char *zelPathMapper(const char *text, zelHandle fromHandle, zelHandle toHandle, uint32_t flags,
                             const char *fromName, const char *toName) ZEL_NOEXCEPT;

@@ -125,7 +125,7 @@ inline std::uint8_t byteAt(const zelPathRecord *chunk, std::size_t position) {
   return position < chunk->used ? chunk->items[position] : static_cast<std::uint8_t>(kindNone);
 }
 
-// The number at an index of the item at position; 0 where its bytes are missing.
+// The number at an index of the item at position; -1 where its bytes are missing.
 std::int32_t numberAt(const zelPathRecord *chunk, std::size_t position, std::size_t index);
 
 inline bool isNumber(std::int64_t value) { return value >= ZEL_MIN_NUMBER && value <= ZEL_MAX_NUMBER; }

@@ -52,7 +52,7 @@ constexpr const Language *languages[] = {
     &kirraLanguage,   &kirraHDLLanguage, &lefLanguage,   &defLanguage,        &sdfLanguage,       &spfLanguage,
     &spefLanguage,    &gcfLanguage,      &spiceLanguage, &vhdl87Language,     &flatTesselLanguage};
 
-// Code 0 belongs to paths built by hand; a code is the place in the table less one.
+// Code 0 belongs to paths built by hand; the others are places in the table, counted from 1.
 constexpr bool isIndexedByCode() {
   for (std::size_t i = 0; i < std::size(languages); ++i)
     if (languages[i]->code != i + 1)

@@ -13,8 +13,10 @@ namespace zeli {
 // An empty path that remembers its text and language; null with EINVAL for a null text, or ENOMEM.
 zelPath startPath(const char *text, const Language &language, zelHandle handle, zelAllocFunc alloc, void *context);
 
-// Ends a parse that refuses its text: what was read so far stays.
+// Ends a parse that refuses its text, or could not add to the path (errno is then set): what was read so far stays.
 inline zelPath reject(zelPath path) {
+  if ((path->flags & flagError) == 0)
+    errno = EINVAL;
   path->flags |= flagError;
   return path;
 }

@@ -3,8 +3,6 @@
 
 #include "core/zelpvt.h"
 
-#include <cstdlib>
-
 using namespace zeli;
 
 namespace {
@@ -42,7 +40,7 @@ std::int32_t zeli::numberAt(const zelPathRecord *chunk, std::size_t position, st
   const std::size_t size = isLong ? 3 : 1;
   const std::size_t start = position + 1 + index * size;
   if (start + size > chunk->used)
-    return 0;
+    return -1;
   const std::uint8_t *bytes = chunk->items + start;
   if (!isLong)
     return bytes[0] - shortOffset;

@@ -10,13 +10,19 @@ enum class State { start, less, star, count, prefix, slash, name, listStart, com
 
 enum class IndexState { start, first, colon, second, secondColon, third, star, count, listStart, comma, listEnd };
 
-// Ends an index that is refused, at the character that it is refused for. A list that was opened with nothing behind it
-// is taken back, so that what stays can be printed.
+// Ends an index that is refused, at the character that it is refused for.
 const char *rejectIndex(zelPath path, const char *text) {
   reject(path);
-  while (lastItem(path) == kindIndexListStart)
-    removeLastByte(path);
   return text;
+}
+
+// Appends the list starts that were read since the last item. They wait for an item, since a list of a refused index
+// that nothing was read for could not be printed.
+bool appendListStarts(zelPath path, int &pending) {
+  for (; pending > 0; --pending)
+    if (!append(path, kindIndexListStart))
+      return false;
+  return true;
 }
 
 // Reads one index, text standing behind its '<', and returns the place behind its '>'.
@@ -26,6 +32,7 @@ const char *parseORKAIndex(zelPath path, const char *text) {
   std::int32_t from = 0;
   std::int32_t to = 0;
   int depth = 0;
+  int pendingStarts = 0;
 
   for (;; ++text) {
     const char c = *text;
@@ -36,25 +43,25 @@ const char *parseORKAIndex(zelPath path, const char *text) {
         return rejectIndex(path, number);
       while (blank.has(*text))
         ++text;
-      const bool goesOn = *text == ':';
-      bool isAdded = true;
+      const bool goesOn = *text == ':' && (state != secondColon && state != star);
+      bool isAdded = goesOn || appendListStarts(path, pendingStarts);
       if (state == colon) {
         to = value;
         path->flags |= flagRange;
-        isAdded = goesOn || appendRange(path, from, to);
+        isAdded = isAdded && (goesOn || appendRange(path, from, to));
         state = second;
       } else if (state == secondColon) {
         const std::int32_t numbers[] = {from, to, value};
         path->flags |= flagComplexIndex;
-        isAdded = appendNumbers(path, kindStepRange, 3, numbers);
+        isAdded = isAdded && appendNumbers(path, kindStepRange, 3, numbers);
         state = third;
       } else if (state == star) {
-        isAdded = appendNumber(path, kindIndexRepeat, value);
+        isAdded = isAdded && appendNumber(path, kindIndexRepeat, value);
         state = count;
       } else {
         from = value;
         path->flags |= flagIndex;
-        isAdded = goesOn || appendNumber(path, kindIndex, from);
+        isAdded = isAdded && (goesOn || appendNumber(path, kindIndex, from));
         state = first;
       }
       if (!isAdded)
@@ -74,8 +81,9 @@ const char *parseORKAIndex(zelPath path, const char *text) {
       state = state == first ? colon : secondColon;
       break;
     case '(':
-      if (!isOneOf(state, {start, count, listStart, listEnd}) || !append(path, kindIndexListStart))
+      if (!isOneOf(state, {start, count, listStart, listEnd}))
         return rejectIndex(path, text);
+      ++pendingStarts;
       ++depth;
       state = listStart;
       break;
@@ -114,8 +122,11 @@ zelPath parse(zelPath path, const char *text) {
     if (c == '\0')
       return depth < 1 && isOneOf(state, {name, listEnd, index}) ? path : reject(path);
     if (state == star && digit.has(c)) {
+      const std::int32_t value = readDigits(text);
+      if (!isNumber(value))
+        return reject(path);
       path->flags |= flagRepeat;
-      if (!appendNumber(path, kindGroupRepeat, readDigits(text)))
+      if (!appendNumber(path, kindGroupRepeat, value))
         return path;
       state = count;
       continue;

@@ -49,7 +49,8 @@ struct NameCopy {
   }
 };
 
-// Whether a name can be part of a reference.
+// Whether a name can be part of a reference. It is converted once more when the reference is stored, so that a refused
+// text leaves no Ident behind in memory that only the caller could release.
 bool isUsable(const Name &name) {
   if (name.length > maxName)
     return false;
