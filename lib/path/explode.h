@@ -25,8 +25,10 @@ struct explNode {
   explNode *next;   // in path order: of the path's nodes, or inside the parent
   explNode *prev;   // likewise
   explNode *child;  // of a list, the first element that has a node; of a repeat, what it repeats
-  explNode *parent; // the list or repeat it stands in
-  explNode *made;   // the node made before, for the release
+  explNode *parent; // the list or repeat that moves on when this one has run through its values
+  explNode *only; // of a list of one element, or a repeat that repeats nothing: the node that all its values come from
+  explNode *current; // where the current value comes from, of a node of the path; null before the first value
+  explNode *made;    // the node made before, for the release
 
   Cursor start; // where the name begins that is written for every value
   Cursor item;  // the item whose value varies (none in a group repeat)

@@ -89,8 +89,14 @@ char *zelStrToIdent(zelPath chunk, std::uint32_t position) noexcept {
   std::uint8_t &kind = chunk->items[position];
   const char *&slot = chunk->slots[slotOf(kind)].string;
   const Language *language = languageOf(chunk->head);
+  const int error = errno;
+  errno = 0;
   char *ident = language == nullptr ? nullptr : convertText(*language, chunk->head, slot);
-  // A name that does not convert becomes a null Ident, so that it is tried only once.
+  // A name that does not convert becomes a null Ident, so that it is tried only once; one that memory lacks for stays.
+  if (ident == nullptr && errno == ENOMEM)
+    return nullptr;
+  if (errno == 0)
+    errno = error;
   slot = ident;
   kind = static_cast<std::uint8_t>(kind - kindTextIdent + kindOwnedIdent);
   return ident;

@@ -29,6 +29,7 @@ struct PrintRun {
   zelHandle handle;      // where a file may redefine the separators
   Separators separators; // in force
   std::uint32_t state;
+  bool isOutOfMemory = false;
   std::size_t size = 0;
   char text[2 * (maxName + 1) + 64];
 
@@ -80,14 +81,14 @@ enum class Braces {
 
 struct Target {
   const ItemPrinter &printer;
-  zelIdentToNameFunc identToName;
+  zelIdentToNameFunc identToName = nullptr;
   // Instead of identToName where a file may redefine the separators, with the handle for those who give none.
-  IdentToNameWithHandle identToNameWithHandle;
-  const zelHandle *defaultHandle;
+  IdentToNameWithHandle identToNameWithHandle = nullptr;
+  const zelHandle *defaultHandle = nullptr;
   // What the target never writes as it stands; what it also expands for single bits; and without repeats.
-  std::uint32_t mask;
-  std::uint32_t explodeMask;
-  std::uint32_t noRepeatMask;
+  std::uint32_t mask = 0;
+  std::uint32_t explodeMask = 0;
+  std::uint32_t noRepeatMask = 0;
   // For the targets with braces: the separators where they are fixed, and whether a text that began with a divider gets
   // one in front of every name.
   Separators separators = {};

@@ -37,9 +37,17 @@ void link(Explosion &explosion, explNode *node, Cursor anchor) {
   explosion.last = node;
 }
 
+// The node below any that only pass its values on: however deep the brackets are, a value costs no walk through them.
+explNode *source(explNode *node) { return node->only != nullptr ? node->only : node; }
+
+void setParent(explNode *node, explNode *parent) {
+  node->parent = parent;
+  source(node)->parent = parent;
+}
+
 // While a list is being set up, its ahead is its last child.
 void adopt(explNode *list, explNode *node) {
-  node->parent = list;
+  setParent(node, list);
   node->prev = list->ahead;
   (list->ahead == nullptr ? list->child : list->ahead->next) = node;
   list->ahead = node;
@@ -56,15 +64,20 @@ void endList(explNode *list, Cursor lastElement, Cursor end) {
   list->lastElement = lastElement;
   list->end = end;
   list->ahead = list->child;
+  explNode *const child = list->child;
+  if (child != nullptr && child->item == list->firstElement && child->end == lastElement) {
+    list->only = source(child);
+    setParent(list, list->parent);
+  }
 }
 
-// The node that an index, range or step range needs where nothing repeats it.
-explNode *makeValueNode(Explosion &explosion, Cursor item, bool expandsRange, bool expandsStep) {
+// The node of a range or step range that the mask expands.
+explNode *makeValueNode(Explosion &explosion, Cursor item, std::uint32_t mask) {
   const std::uint8_t kind = item.kind();
   explNode *node = nullptr;
-  if (isForm(kind, kindRange) && expandsRange)
+  if (isForm(kind, kindRange) && (mask & EXPLODE_RANGE) != 0)
     node = makeNode(explosion, NodeKind::range, item);
-  else if (isForm(kind, kindStepRange) && expandsStep)
+  else if (isForm(kind, kindStepRange) && (mask & EXPLODE_STEP) != 0)
     node = makeNode(explosion, NodeKind::step, item);
   if (node != nullptr)
     node->end = item.next();
@@ -80,13 +93,15 @@ explNode *makeRepeatNode(Explosion &explosion, Cursor index, Cursor repeat, expl
   node->end = repeat.next();
   node->child = child;
   if (child != nullptr)
-    child->parent = node;
+    setParent(child, node);
+  if (child != nullptr && node->count <= 0)
+    node->only = source(child);
   return node;
 }
 
 explNode *setupExplodeIRepeat(Explosion &explosion, Cursor index) {
   // What is repeated is written value by value, whatever the mask says of ranges elsewhere.
-  explNode *child = makeValueNode(explosion, index, true, true);
+  explNode *child = makeValueNode(explosion, index, EXPLODE_ALL);
   return explosion.isWhole ? makeRepeatNode(explosion, index, index.next(), child) : nullptr;
 }
 
@@ -126,7 +141,7 @@ explNode *setupExplodeMulti(Explosion &explosion, Cursor cursor, std::uint32_t m
     } else if (isRepeat(cursor)) {
       element = setupExplodeIRepeat(explosion, item);
     } else {
-      element = makeValueNode(explosion, item, (mask & EXPLODE_RANGE) != 0, (mask & EXPLODE_STEP) != 0);
+      element = makeValueNode(explosion, item, mask);
     }
     if (!explosion.isWhole)
       return nullptr;
@@ -186,10 +201,10 @@ explNode *currentChild(const explNode *list) {
 // The innermost node that the current value of a node comes from.
 explNode *active(explNode *node) {
   for (;;) {
-    explNode *inner = nullptr;
-    if (node->kind == NodeKind::list)
+    explNode *inner = node->only;
+    if (inner == nullptr && node->kind == NodeKind::list)
       inner = currentChild(node);
-    else if (node->kind == NodeKind::repeat)
+    else if (inner == nullptr && node->kind == NodeKind::repeat)
       inner = node->child;
     if (inner == nullptr)
       return node;
@@ -272,8 +287,7 @@ void zeli::setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask) 
     case kindStepRange:
     case kindStepRange + 1:
       isAnchorPending = false;
-      if (explNode *node = makeValueNode(explosion, cursor, (mask & EXPLODE_RANGE) != 0, (mask & EXPLODE_STEP) != 0);
-          node != nullptr)
+      if (explNode *node = makeValueNode(explosion, cursor, mask); node != nullptr)
         link(explosion, node, anchor);
       break;
     case kindIndexRepeat:
@@ -320,7 +334,9 @@ void zeli::freeExpl(Explosion &explosion) {
 }
 
 IndexValue zeli::getIndexValue(explNode *node) {
-  node = active(node);
+  if (node->current == nullptr)
+    node->current = active(node);
+  node = node->current;
   switch (node->kind) {
   case NodeKind::list:
     return {isEmpty(node) ? node->item : node->element, 0};
@@ -336,8 +352,14 @@ IndexValue zeli::getIndexValue(explNode *node) {
 }
 
 bool zeli::incrementIndex(explNode *node) {
-  for (explNode *inner = active(node); advance(inner); inner = inner->parent)
-    if (inner == node)
-      return true;
-  return false;
+  // What only passes values on is skipped, also when it is the outermost.
+  const explNode *const outermost = source(node);
+  explNode *inner = node->current != nullptr ? node->current : active(node);
+  bool carries = advance(inner);
+  while (carries && inner != node && inner != outermost) {
+    inner = inner->parent;
+    carries = advance(inner);
+  }
+  node->current = active(inner);
+  return carries;
 }

@@ -148,8 +148,13 @@ void PrintRun::putIdent(const char *ident) {
 }
 
 void PrintRun::putIdentAt(Cursor cursor) {
-  const std::uint8_t kind = cursor.kind();
-  putIdent(isText(kind) ? zelStrToIdent(cursor.chunk, cursor.position) : cursor.chunk->slots[slotOf(kind)].string);
+  if (isText(cursor.kind()))
+    zelStrToIdent(cursor.chunk, cursor.position);
+  // Only memory keeps a text from becoming an Ident, be it a null one.
+  if (isText(cursor.kind()))
+    isOutOfMemory = true;
+  else
+    putIdent(cursor.chunk->slots[slotOf(cursor.kind())].string);
 }
 
 void PrintRun::item(Cursor cursor) {
@@ -192,7 +197,10 @@ char *zeli::printPath(const Target &target, zelPath path, zelHandle handle, std:
     printItems(run, explosion.first);
     target.printer.finish(run);
     run.text[run.size] = '\0';
-    result = makeString(nameBytes(run.text), alloc, context);
+    if (run.isOutOfMemory)
+      errno = ENOMEM;
+    else
+      result = makeString(nameBytes(run.text), alloc, context);
   }
   freeExpl(explosion);
   return result;

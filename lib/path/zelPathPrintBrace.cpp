@@ -99,21 +99,24 @@ constexpr std::uint32_t braceMask = EXPLODE_STEP | EXPLODE_MULTI | EXPLODE_INDEX
 constexpr std::uint32_t braceExplodeMask = EXPLODE_GROUP_REPEAT | EXPLODE_RANGE;
 
 constexpr Target fixedTarget(zelIdentToNameFunc identToName, char divider, bool marksLeading, Braces braces) {
-  return {bracePrint,
-          identToName,
-          nullptr,
-          nullptr,
-          braceMask,
-          braceExplodeMask,
-          EXPLODE_GROUP_REPEAT,
-          {divider, divider, '[', ']'},
-          marksLeading,
-          braces};
+  return {.printer = bracePrint,
+          .identToName = identToName,
+          .mask = braceMask,
+          .explodeMask = braceExplodeMask,
+          .noRepeatMask = EXPLODE_GROUP_REPEAT,
+          .separators = {divider, divider, '[', ']'},
+          .marksLeading = marksLeading,
+          .braces = braces};
 }
 
 constexpr Target redefinableTarget(IdentToNameWithHandle identToName, const zelHandle &defaultHandle) {
-  return {bracePrint,           nullptr, identToName, &defaultHandle,  braceMask, braceExplodeMask,
-          EXPLODE_GROUP_REPEAT, {},      true,        Braces::balanced};
+  return {.printer = bracePrint,
+          .identToNameWithHandle = identToName,
+          .defaultHandle = &defaultHandle,
+          .mask = braceMask,
+          .explodeMask = braceExplodeMask,
+          .noRepeatMask = EXPLODE_GROUP_REPEAT,
+          .marksLeading = true};
 }
 
 constexpr Target verilog = fixedTarget(zelIdentToVerilog, '.', false, Braces::verilog);

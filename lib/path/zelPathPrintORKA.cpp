@@ -119,8 +119,10 @@ void printAlternative(PrintRun &run) {
 
 constexpr ItemPrinter ORKAPrint = {printItem, printValue, printAlternative, closeBracket};
 
-constexpr Target orka = {
-    ORKAPrint, zelIdentToORKA, nullptr, nullptr, 0, EXPLODE_ALL, EXPLODE_GROUP_REPEAT | EXPLODE_INDEX_REPEAT};
+constexpr Target orka = {.printer = ORKAPrint,
+                         .identToName = zelIdentToORKA,
+                         .explodeMask = EXPLODE_ALL,
+                         .noRepeatMask = EXPLODE_GROUP_REPEAT | EXPLODE_INDEX_REPEAT};
 
 } // namespace
 

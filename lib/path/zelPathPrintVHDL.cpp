@@ -67,7 +67,10 @@ void printAlternative(PrintRun &run) {
 
 constexpr ItemPrinter VhdlPrint = {printItem, printIndex, printAlternative, [](PrintRun &) {}};
 
-constexpr Target vhdl = {VhdlPrint, zelIdentToVHDL, nullptr, nullptr, EXPLODE_ALL & ~EXPLODE_RANGE, EXPLODE_ALL, 0};
+constexpr Target vhdl = {.printer = VhdlPrint,
+                         .identToName = zelIdentToVHDL,
+                         .mask = EXPLODE_ALL & ~EXPLODE_RANGE,
+                         .explodeMask = EXPLODE_RANGE};
 
 } // namespace
 
