@@ -39,6 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
   while (input.remaining_bytes() != 0)
     storage.push_back(input.ConsumeRandomLengthString(16).c_str());
   std::vector<const char *> words;
+  words.reserve(storage.size());
   for (const std::string &word : storage)
     words.push_back(word.c_str());
 

@@ -59,7 +59,7 @@ const BuiltIn *builtInOf(SpaceId space) {
 const BuiltIn *builtInOf(const char *spaceName) {
   const SpaceId space = recognise(spaceName);
   // The registry takes every other name of the family for Verilog-AMS, a handle needs its own.
-  if (space == SpaceId::VerilogAMS && !(spaceName[7] == 'A' && spaceName[8] == 'M'))
+  if (space == SpaceId::VerilogAMS && spaceName != nullptr && !(spaceName[7] == 'A' && spaceName[8] == 'M'))
     return nullptr;
   return builtInOf(space);
 }

@@ -96,6 +96,7 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
   if ((zelPathGetFlag(path) & ZEL_PATH_ERROR) == 0)
     result = to->varBits->print(path, to, static_cast<std::int32_t>(flags), alloc, context);
   zelFreePath(path, Arena::release, &arena);
+  // cppcheck-suppress returnDanglingLifetime ; the result is the caller's memory, not the path's
   return result;
 }
 

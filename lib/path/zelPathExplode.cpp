@@ -40,9 +40,9 @@ void link(Explosion &explosion, explNode *node, Cursor anchor) {
 // The node below any that only pass its values on: however deep the brackets are, a value costs no walk through them.
 explNode *source(explNode *node) { return node->only != nullptr ? node->only : node; }
 
-void setParent(explNode *node, explNode *parent) {
-  node->parent = parent;
-  source(node)->parent = parent;
+void setParent(explNode *inner, explNode *outer) {
+  inner->parent = outer;
+  source(inner)->parent = outer;
 }
 
 // While a list is being set up, its ahead is its last child.

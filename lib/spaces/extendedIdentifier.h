@@ -13,7 +13,7 @@ bool isLegalExtended(Bytes name, const ByteSet &escapable);
 // Whether name has the outer form of an extended identifier. A lone backslash does: it opens and closes at once.
 inline bool isExtended(Bytes name) { return !name.empty() && name.front() == '\\' && name.back() == '\\'; }
 inline Bytes extendedContent(Bytes name) {
-  return name.size() < 2 ? Bytes{"", 0} : Bytes{name.data() + 1, name.size() - 2};
+  return name.size() < 2 ? Bytes{""} : Bytes{name.data() + 1, name.size() - 2};
 }
 
 // A backslash inside is doubled: how that is written, and for decode the first of the two.

@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <map>
 #include <ostream>
 #include <sstream>
@@ -26,15 +27,6 @@ struct Outcome {
 
 inline std::ostream &operator<<(std::ostream &stream, const Outcome &outcome) {
   return stream << "status " << outcome.status << "\n--- output\n" << outcome.out << "--- errors\n" << outcome.err;
-}
-
-inline const char *toolPath() {
-#ifdef ZELPATH_PROGRAM
-  return ZELPATH_PROGRAM;
-#else
-  const char *const path = std::getenv("ZELPATH_PROGRAM");
-  return path != nullptr ? path : "";
-#endif
 }
 
 inline std::string contentsOf(std::FILE *file) {
@@ -67,7 +59,7 @@ inline Outcome runTool(const Words &arguments, const Environment &environment = 
     for (const auto &[name, value] : environment)
       setenv(name.c_str(), value.c_str(), 1);
     alarm(60);
-    execv(toolPath(), argv.data());
+    execv(ZELPATH_PROGRAM, argv.data());
     _exit(127);
   }
   int status = 0;
@@ -78,32 +70,41 @@ inline Outcome runTool(const Words &arguments, const Environment &environment = 
   return outcome;
 }
 
+// The words of a text without quotes.
+inline Words wordsOf(const std::string &text) {
+  std::istringstream stream(text);
+  return {std::istream_iterator<std::string>(stream), {}};
+}
+
 // What zelpath prints for a path that option reads: a line for each language, its own last. In texts stands first the
-// text that the languages share; then, behind "; " each, the short names of those that differ and their text.
+// text that the languages share; then, behind "; " each, the letters of those that differ and their text.
 inline std::string linesOf(const std::string &option, const std::string &texts) {
-  const std::pair<std::string, std::string> languages[] = {
-      {"veri", "Verilog: "},     {"tessel", "Tessel:    "}, {"kirra", "Kirra:    "}, {"gcf", "Gcf:    "},
-      {"hdl", "KirraHDL:    "}, {"spice", "Spice:    "},   {"orka", "ORKA:    "},   {"vhdl", "VHDL:    "},
+  const struct {
+    char letter;
+    const char *option;
+    const char *label;
+  } languages[] = {
+      {'V', "-veri", "Verilog: "}, {'T', "-tessel", "Tessel:    "},  {'K', "-kirra", "Kirra:    "},
+      {'G', "-gcf", "Gcf:    "},   {'H', "-spice", "KirraHDL:    "}, {'S', "", "Spice:    "},
+      {'O', "-orka", "ORKA:    "}, {'D', "-vhdl", "VHDL:    "},
   };
-  std::map<std::string, std::string> textOf;
+  std::map<char, std::string> textOf;
   size_t end = texts.find("; ");
-  for (const auto &[name, label] : languages)
-    textOf[name] = texts.substr(0, end);
+  for (const auto &language : languages)
+    textOf[language.letter] = texts.substr(0, end);
   while (end != std::string::npos) {
     const size_t start = end + 2;
     end = texts.find("; ", start);
     const std::string differing = texts.substr(start, end == std::string::npos ? end : end - start);
     const size_t blank = differing.find(' ');
-    std::istringstream names(differing.substr(0, blank));
-    for (std::string name; std::getline(names, name, ',');)
-      textOf.at(name) = differing.substr(blank + 1);
+    for (const char letter : differing.substr(0, blank))
+      textOf.at(letter) = differing.substr(blank + 1);
   }
-  const std::string input = option == "-spice" ? "hdl" : option.substr(1);
-  std::string lines;
+  std::string others;
   std::string own;
-  for (const auto &[name, label] : languages)
-    (name == input ? own : lines) += label + textOf.at(name) + "\n";
-  return lines + own;
+  for (const auto &language : languages)
+    (language.option == option ? own : others) += language.label + textOf.at(language.letter) + "\n";
+  return others + own;
 }
 
 #endif

@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -12,8 +13,6 @@ struct Row {
   Words arguments;
   std::string out;
   std::string err = {};
-  Environment environment = {};
-  int status = 0;
 };
 
 void check(std::initializer_list<Row> rows) {
@@ -22,30 +21,9 @@ void check(std::initializer_list<Row> rows) {
     for (const std::string &argument : row.arguments)
       line += " '" + argument + "'";
     SCOPED_TRACE(line);
-    EXPECT_EQ(runTool(row.arguments, row.environment), (Outcome{row.out, row.err, row.status}));
+    EXPECT_EQ(runTool(row.arguments), (Outcome{row.out, row.err, 0}));
   }
 }
-
-const std::string shortUsage = R"( ZELPATH command lines include a language option with a hierarchical name
-  and options which may be abbreviated
-
-  Option         Argument        Usage
-
--explode                         Break output into separate bits
--gcf         Hierarchical path   Following name is a Gcf name
--help                            Describe how to run ZELPATH
--kirra       Hierarchical path   Following name is a Kirra name
--kirraHDL    Hierarchical path   Following name is a KirraHDL name
--map                             followed by `from` `to` namespaces and from `pathname`
--orka        Hierarchical path   Following name is a ORKA name
--spice       Hierarchical path   Following name is a Spice name
--tessel      Hierarchical path   Following name is a Tessel name
--verilog     Hierarchical path   Following name is Verilog
--vhdl        Hierarchical path   Following name is a VHDL name
-
- Example:
-  % zelpath -veri "top.test.addr[3:0]"
-)";
 
 const std::string fullUsage = R"( ZELPATH command lines include a language option with a hierarchical name
   and options which may be abbreviated
@@ -74,6 +52,16 @@ const std::string fullUsage = R"( ZELPATH command lines include a language optio
   % zelpath -veri "top.test.addr[3:0]"
 )";
 
+// Without the options that only the full help lists.
+std::string shortened(std::string usage) {
+  for (const char *const option : {"-group", "-mutate", "-nocomplex", "-norepeat", "-parse", "-top"}) {
+    const size_t start = usage.find(std::string("\n") + option);
+    usage.erase(start, usage.find('\n', start + 1) - start);
+  }
+  return usage;
+}
+const std::string shortUsage = shortened(fullUsage);
+
 // The path "a", read as Verilog and read as VHDL.
 const std::string verilogA = linesOf("-veri", "a");
 const std::string vhdlA = linesOf("-vhdl", "a");
@@ -81,10 +69,13 @@ const std::string vhdlA = linesOf("-vhdl", "a");
 const std::string given = "Error: path already given\n";
 const std::string wrongMap = "Error: See the correct usage.\n";
 const std::string quitting = "Quitting the mapping.\n";
+const std::string unmapped = "Could not map the path. Please check the path and try.\n";
 
 std::string wants(const std::string &option) { return "Error: " + option + " requires an argument\n"; }
 std::string unknown(const std::string &option) { return "Error: " + option + " doesn't match any known options\n"; }
 std::string ambiguous(const std::string &option) { return "Error: " + option + " is an ambiguous option\n"; }
+
+std::string noHandle(const std::string &space) { return "Could not get handle for the namespace:" + space + "\n"; }
 
 std::string mapping(const std::string &path, const std::string &from, const std::string &to, const std::string &mapped,
                     const std::string &back) {
@@ -103,27 +94,23 @@ TEST(Options, Help) {
 }
 
 TEST(Options, EveryAbbreviation) {
+  const Words switches = wordsOf("-e -ex -exp -expl -explo -explod -explode -gr -gro -grou -group -h -he -hel -help "
+                                 "-noc -noco -nocom -nocomp -nocompl -nocomple -nocomplex -nor -nore -norep -norepe "
+                                 "-norepea -norepeat -p -pa -par -pars -parse -to -top -ma -map");
+  const Words withPath = wordsOf("-gc -gcf -kirra -mu -mut -muta -mutat -mutate -o -or -ork -orka -s -sp -spi -spic "
+                                 "-spice -te -tes -tess -tesse -tessel -ve -ver -veri -veril -verilo -verilog -vh "
+                                 "-vhd -vhdl");
+  const Words several = wordsOf("- -g -k -ki -kir -kirr -m -n -no -t -v");
+  std::string wanting;
+  for (const std::string &option : withPath)
+    wanting += wants(option);
+  std::string doubtful;
+  for (const std::string &option : several)
+    doubtful += ambiguous(option);
   check({
-      // Those without an argument; no word behind "-ma" and "-map" suffices for a mapping.
-      {{"-e",     "-ex",     "-exp",     "-expl",     "-explo",    "-explod",    "-explode", "-gr",
-        "-gro",   "-grou",   "-group",   "-h",        "-he",       "-hel",       "-help",    "-noc",
-        "-noco",  "-nocom",  "-nocomp",  "-nocompl",  "-nocomple", "-nocomplex", "-nor",     "-nore",
-        "-norep", "-norepe", "-norepea", "-norepeat", "-p",        "-pa",        "-par",     "-pars",
-        "-parse", "-to",     "-top",     "-ma",       "-map"},
-       wrongMap + wrongMap + fullUsage},
-      // Those with an argument complain of its absence, under the name that the user gave.
-      {{"-gc",   "-gcf", "-kirra", "-mu",    "-mut",    "-muta",    "-mutat", "-mutate", "-o",    "-or",    "-ork",
-        "-orka", "-s",   "-sp",    "-spi",   "-spic",   "-spice",   "-te",    "-tes",    "-tess", "-tesse", "-tessel",
-        "-ve",   "-ver", "-veri",  "-veril", "-verilo", "-verilog", "-vh",    "-vhd",    "-vhdl"},
-       wants("-gc") + wants("-gcf") + wants("-kirra") + wants("-mu") + wants("-mut") + wants("-muta") +
-           wants("-mutat") + wants("-mutate") + wants("-o") + wants("-or") + wants("-ork") + wants("-orka") +
-           wants("-s") + wants("-sp") + wants("-spi") + wants("-spic") + wants("-spice") + wants("-te") +
-           wants("-tes") + wants("-tess") + wants("-tesse") + wants("-tessel") + wants("-ve") + wants("-ver") +
-           wants("-veri") + wants("-veril") + wants("-verilo") + wants("-verilog") + wants("-vh") + wants("-vhd") +
-           wants("-vhdl") + shortUsage},
-      {{"-", "-g", "-k", "-ki", "-kir", "-kirr", "-m", "-n", "-no", "-t", "-v"},
-       ambiguous("-") + ambiguous("-g") + ambiguous("-k") + ambiguous("-ki") + ambiguous("-kir") + ambiguous("-kirr") +
-           ambiguous("-m") + ambiguous("-n") + ambiguous("-no") + ambiguous("-t") + ambiguous("-v") + fullUsage},
+      {switches, wrongMap + wrongMap + fullUsage}, // no word behind "-ma" and "-map" suffices for a mapping
+      {withPath, wanting + shortUsage},            // under the name that the user gave
+      {several, doubtful + fullUsage},
   });
 }
 
@@ -178,18 +165,67 @@ TEST(Options, MutateHasNoEffect) {
   });
 }
 
+// One object in the spelling of each space, so that every ordered pair maps it there and back. Its middle name holds
+// what other spaces take for separators. Any longer name that begins as "Lef" does stands for LEF.
+TEST(Map, EveryPair) {
+  const std::pair<std::string, std::string> spellings[] = {
+      {"Verilog", R"(top.\a/b.c|d [3].n)"},  {"VerilogAMS", R"(top.\a/b.c|d [3].n)"},
+      {"VHDL", R"(:top:\a/b.c|d\(3):n)"},    {"VHDL87", R"(:top:\a/b.c|d\(3):n)"},
+      {"ORKA", R"(top/a#2fb.c|d<3>/n)"},     {"Gcf", R"(top.a\/b\.c\|d<3>.n)"},
+      {"Tessel", R"(top|a/b.c\|d[3]|n)"},    {"Kirra", R"(top.a\/b\.c\|d[3].n)"},
+      {"KirraHDL", R"(top.\a/b.c|d [3].n)"}, {"Sdf", R"(top/a\/b\.c\|d[3]/n)"},
+      {"Spf", R"(top/a\/b.c|d[3]/n)"},       {"Spef", R"(top/a\/b\.c\|d[3]/n)"},
+      {"Def", R"(top/a\/b.c|d[3]/n)"},       {"Library", R"(top/a\/b.c|d[3]/n)"},
+  };
+  for (const auto &[from, path] : spellings) {
+    for (const auto &[to, mapped] : spellings)
+      check({{{"-map", from, to, path}, mapping(path, from, to, mapped, path)}});
+  }
+}
+
 TEST(Map, ThereAndBack) {
-  check({
-      {{"-map", "Verilog", "VHDL", "top.a"}, mapping("top.a", "Verilog", "VHDL", ":top:a", "top.a")},
-      {{"-ma", "VHDL", "Verilog", ":Top:u1(3)"}, mapping(":Top:u1(3)", "VHDL", "Verilog", "top.u1[3]", ":top:u1(3)")},
-      {{"-map", "Verilog", "VHDL", "\\a+b .c[3]"},
-       mapping("\\a+b .c[3]", "Verilog", "VHDL", ":\\a+b\\:c(3)", "\\a+b .c[3]")},
-      {{"-map", "VHDL", "Verilog", ":top:\\a b\\(3)"},
-       mapping(":top:\\a b\\(3)", "VHDL", "Verilog", "top.\\a#20b [3]", ":top:\\a b\\(3)")},
-      {{"-map", "Verilog", "VHDL87", "\\entity "}, mapping("\\entity ", "Verilog", "VHDL87", "\\entity\\", "entity")},
+  const struct {
+    std::string from, to, path, mapped, back;
+  } rows[] = {
+      {"Verilog", "VHDL", "top.a", ":top:a", "top.a"},
+      {"VHDL", "Verilog", ":Top:u1(3)", "top.u1[3]", ":top:u1(3)"},
+      {"Verilog", "VHDL", R"(\a+b .c[3])", R"(:\a+b\:c(3))", R"(\a+b .c[3])"},
+      {"VHDL", "Verilog", R"(:top:\a b\(3))", R"(top.\a#20b [3])", R"(:top:\a b\(3))"},
+      {"Verilog", "VHDL87", R"(\entity )", R"(\entity\)", "entity"},
+      // SPICE has no bus, and the flat TESSEL form no hierarchy.
+      {"Spice", "Verilog", "a.b[3]", R"(a.\b[3] )", "a.b[3]"},
+      {"Verilog", "Spice", "a.b[3]", "a.b[3]", R"(a.\b[3] )"},
+      {"FlatTessel", "Verilog", "top_u1_n[3]", "top_u1_n[3]", "top_u1_n[3]"},
+      {"Verilog", "FlatTessel", "a.b[3]", "a|b[3]", R"(\a|b [3])"},
+      // A leading divider goes with the path into the spaces that have one.
+      {"Sdf", "VHDL", "/a/b", ":a:b", "a/b"},
+      {"Sdf", "Tessel", "/a/b", "|a|b", "/a/b"},
+      {"ORKA", "Gcf", "/top/a", "top.a", "top/a"},
+      {"Sdf", "Verilog", "[3]", "[3]", "(null)"},
+      // LEF takes a ':' into a name and writes a blank with '%', SPF leaves it as it is.
+      {"Lef", "Verilog", "a:b/c[1:2]", R"(\a:b .c[1:2])", "a:b/c[1:2]"},
+      {"Lef", "Verilog", "a%20b", R"(\a#20b )", "a%20b"},
+      {"Verilog", "Spf", R"(\a#20b )", "a b", "(null)"},
+      {"Spf", "Verilog", R"(a\:b)", R"(\a:b )", R"(a\:b)"},
+      // ORKA keeps steps and repeats; an index list has a comma too many to be read again.
+      {"ORKA", "ORKA", "<*2>(a<0:6:2,7*2>,b)", "<*2>(a<0:6:2,7*2>,b)", "<*2>(a<0:6:2,7*2>,b)"},
+      {"ORKA", "ORKA", "a<(0,2,4)>", "a<(,0,2,4)>", "(null)"},
+      {"ORKA", "Verilog", "a<0:6:2>", "a[0],a[2],a[4],a[6]", "a<0>,a<2>,a<4>,a<6>"},
+      {"VHDL", "VHDL", "@lib.cell(v):U1(3)", "@lib.cell(v):U1(3)", "@lib.cell(v):U1(3)"},
+      {"VHDL", "Verilog", "@lib.cell:u1", "u1", "u1"},
+      // Written as in plain VHDL and Verilog, a word that only the extension reserves does not read back.
+      {"Verilog", "VHDLAMS", "nature.a", ":nature:a", ".a"},
+      {"VHDL", "VerilogAMS", "analog", "analog", ""},
       // The way back may fail: VHDL has no empty path.
-      {{"-map", "Verilog", "VHDL", ""}, mapping("", "Verilog", "VHDL", "", "(null)")},
-  });
+      {"Verilog", "VHDL", "", "", "(null)"},
+      {"Spice", "Sdf", "", "", ""},
+      // Spaces are told by a few characters.
+      {"L", "Dx", "a/b", "a/b", "a/b"},
+      {"VHDL8x", "Sxi", ":a:b", "a.b", ":a:b"},
+      {"Gc", "Opaque", "a.b<3>", "a/b<3>", "a.b<3>"},
+  };
+  for (const auto &[from, to, path, mapped, back] : rows)
+    check({{{"-map", from, to, path}, mapping(path, from, to, mapped, back)}});
 }
 
 TEST(Map, Words) {
@@ -205,8 +241,8 @@ TEST(Map, Words) {
        mapping("a[1:0]", "Verilog", "VHDL", "a(1 downto 0)", "a[1:0]")},
       // Too few words: they are scanned as any others, and there are no spaces.
       {{"-map"}, wrongMap + shortUsage},
-      {{"-map", "Verilog", "VHDL"}, wrongMap + given + quitting, "Could not get handle for the namespace:(null)\n"},
-      {{"-map", "-ve", "a"}, wrongMap + quitting, "Could not get handle for the namespace:(null)\n"},
+      {{"-map", "Verilog", "VHDL"}, wrongMap + given + quitting, noHandle("(null)")},
+      {{"-map", "-ve", "a"}, wrongMap + quitting, noHandle("(null)")},
       // A later one replaces the spaces if it is complete.
       {{"-map", "Nosuch", "Verilog", "-map", "VHDL", "Verilog", "a"}, mapping("a", "VHDL", "Verilog", "a", "a")},
       {{"-map", "VHDL", "Verilog", "a", "-map", "Nosuch"},
@@ -215,14 +251,18 @@ TEST(Map, Words) {
 }
 
 TEST(Map, Failures) {
-  check({
-      {{"-map", "Nosuch", "VHDL", "top.a"}, quitting, "Could not get handle for the namespace:Nosuch\n"},
-      {{"-map", "Verilog", "Nosuch", "top.a"}, quitting, "Could not get handle for the namespace:Nosuch\n"},
-      {{"-map", "Nosuch", "None", "top.a"}, quitting, "Could not get handle for the namespace:Nosuch\n"},
-      {{"-map", "-ve", "VHDL", "top.a"}, quitting, "Could not get handle for the namespace:-ve\n"},
-      {{"-map", "VerilogA", "VHDL", "top.a"}, quitting, "Could not get handle for the namespace:VerilogA\n"},
-      {{"-map", "Verilog", "VHDL", "a["}, "Could not map the path. Please check the path and try.\n"},
-  });
+  // Spaces that do not exist or have no paths, and names that are not quite those of one that has.
+  Words noSpaces = wordsOf("Nosuch -ve VerilogA Ident None SDF VHDLx Verilogx VerilogAx KirraX");
+  noSpaces.emplace_back(5000, 'V');
+  for (const std::string &space : noSpaces)
+    check({{{"-map", space, "VHDL", "a"}, quitting, noHandle(space)},
+           {{"-map", "VHDL", space, "a"}, quitting, noHandle(space)},
+           {{"-map", space, "Nowhere", "a"}, quitting, noHandle(space)}});
+  // Paths that are none of their space, and one that is too long in the other.
+  const Words pairs = wordsOf("Verilog a[ Sdf a:b Lef a;b Spice a..b ORKA a<1><2> ORKA a<0:4:0>");
+  for (size_t i = 0; i < pairs.size(); i += 2)
+    check({{{"-map", pairs[i], "Verilog", pairs[i + 1]}, unmapped}});
+  check({{{"-map", "VHDL", "Verilog", ""}, unmapped}});
 }
 
 } // namespace
