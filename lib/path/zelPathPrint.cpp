@@ -113,6 +113,7 @@ void openGroup(PrintRun &run) {
 
 } // namespace
 
+// cppcheck-suppress uninitMemberVar ; the text is deliberately not cleared for every name
 PrintRun::PrintRun(const Target &printTarget, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask)
     : target(printTarget), path(printedPath), handle(givenHandle), separators(printTarget.separators), state(mask) {
   if (target.defaultHandle == nullptr)
