@@ -73,8 +73,10 @@ bool storeLib(zelPath path, const LibraryReference &reference) {
     if (parts[i]->begin == nullptr)
       continue;
     slot->string = zelVHDLToIdent(NameCopy(*parts[i]).bytes, memory.alloc, memory.context);
-    if (slot->string == nullptr)
+    if (slot->string == nullptr) {
+      path->flags |= flagError; // with the errno of the conversion
       return false;
+    }
   }
   return true;
 }
