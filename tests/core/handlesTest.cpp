@@ -47,7 +47,7 @@ void expectBuiltIn(const BuiltIn &row) {
   EXPECT_EQ(handle->varBits->print, row.print);
   EXPECT_EQ(separatorsOf(handle), row.separators);
   std::string defaults = "????";
-  EXPECT_EQ(zelGetHandleDefaults(row.name, &defaults[0], &defaults[1], &defaults[2], &defaults[3]), 1);
+  EXPECT_EQ(zelGetHandleDefaults(row.name, defaults.data(), &defaults[1], &defaults[2], &defaults[3]), 1);
   EXPECT_EQ(defaults, row.separators);
   zelFreeHandle(handle); // to no effect
   EXPECT_EQ(separatorsOf(handle), row.separators);
@@ -85,7 +85,7 @@ TEST(Handle, keepsWhatTheFormatFixes) {
 TEST(Handle, takesWhatAFileRedefines) {
   for (const BuiltIn &row : overridable) {
     expectBuiltIn(row);
-    const auto byte = [&row](int i) { return std::uint32_t{static_cast<unsigned char>(row.separators[i])}; };
+    const auto byte = [&row](std::size_t i) { return std::uint32_t{static_cast<unsigned char>(row.separators[i])}; };
     // The low bytes count.
     for (const std::uint32_t high : {0U, 0x100U, 0xffffff00U}) {
       EXPECT_EQ(zelGetHandle(row.name, byte(0) | high, byte(1) | high, byte(2) | high, byte(3) | high), row.handle);

@@ -7,8 +7,8 @@
 #include <string>
 
 namespace {
-void *put(zelRing &ring, const char *text) {
-  return std::strcpy(static_cast<char *>(zelAllocRing(std::strlen(text) + 1, &ring)), text);
+void *put(zelRing &ring, const std::string &text) {
+  return std::memcpy(zelAllocRing(text.size() + 1, &ring), text.c_str(), text.size() + 1);
 }
 
 // The heap tells the size of a block exactly only under AddressSanitizer.
@@ -25,7 +25,7 @@ TEST(Ring, marksWhatIsTenAllocationsOld) {
   zelRing ring = nullptr;
   void *results[40] = {};
   for (int i = 0; i < 40; ++i) {
-    results[i] = put(ring, ("result " + std::to_string(i)).c_str());
+    results[i] = put(ring, "result " + std::to_string(i));
     for (int j = i < 14 ? 0 : i - 14; j <= i; ++j)
       EXPECT_EQ(static_cast<char *>(results[j]), j <= i - 10 ? "@DEAD!" : "result " + std::to_string(j)) << i;
     EXPECT_EQ(results[i], results[i < 15 ? i : i - 15]);

@@ -35,7 +35,7 @@ TEST(Helpers, lowerAsciiOnly) {
     char buffer[16] = "???????????????";
     zelToLowerCopy(buffer, text);
     EXPECT_STREQ(buffer, lowered);
-    std::strcpy(buffer, text);
+    std::memcpy(buffer, text, std::strlen(text) + 1);
     zelToLowerCopy(buffer, buffer);
     EXPECT_STREQ(buffer, lowered);
     EXPECT_EQ(zelAllLower(text), std::strcmp(text, lowered) == 0 ? 1 : 0) << text;

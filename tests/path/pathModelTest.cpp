@@ -2,6 +2,7 @@
 #include "path/pathSupport.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <vector>
 
@@ -145,9 +146,12 @@ TEST(PathModel, NamesAreConvertedOnce) {
   EXPECT_EQ(itemsOf(illegal.get()) + flagsOf(illegal.get()), "- cH");
   EXPECT_EQ(zelStrToIdent(illegal.get(), 99), nullptr);
   // Names are read with the separators of the path's own handle.
-  const Handle dots = handleOf("Def", '.', '<', '>');
-  const Path handled = parse("Def", R"(a\<[.b)", dots.get());
-  EXPECT_STREQ(zelStrToIdent(handled.get(), 0), "Ia<[");
+  for (const auto &[space, text, ident] :
+       {std::array{"Def", R"(a\<[.b)", "Ia<["}, std::array{"Lef", R"(a\.<1>)", "Ia."}}) {
+    const Handle dots = handleOf(space, '.', '<', '>');
+    const Path handled = parse(space, text, dots.get());
+    EXPECT_STREQ(zelStrToIdent(handled.get(), 0), ident);
+  }
   const Path unknown = parse("Verilog", "a[3]");
   EXPECT_EQ(zelStrToIdent(unknown.get(), 1), nullptr); // an index
   unknown->flags = 0;

@@ -1,6 +1,7 @@
 // What each grammar accepts, and what it keeps of what it refuses. A case reads "text -> items | flags", in the
 // spelling of pathSupport.h.
 #include "path/pathSupport.h"
+#include "support/rules.h"
 
 namespace {
 
@@ -55,7 +56,8 @@ TEST(PathParseVerilog, ListsAndRepeats) {
 TEST(PathParseVerilog, Names) {
   expectParsed({"Verilog", "VerilogAMS"}, nullptr, R"(\a.b .c -> \a.b  c | H)", "\\a+b\t -> \\a+b\t",
                "a$1._ -> a$1 _ | H", R"(\a.b c -> \a.b  c | E)", R"(\ab -> | E)", R"(\ -> | E)", "\\a\x80  -> | E",
-               "a.module -> a | EH", "$a -> | E", "a(3) -> a | E", "a:b -> a | E", "a[1].3b -> a [1] | EHIm");
+               "analog -> analog", "a.module -> a | EH", "$a -> | E", "a(3) -> a | E", "a:b -> a | E",
+               "a[1].3b -> a [1] | EHIm");
 
   expectParsed({"KirraHDL"}, nullptr, R"(\a$b .c -> \a$b  c | H)", "a$b -> a | E", "a.module -> a | EH");
 
@@ -103,7 +105,9 @@ TEST(PathParseVHDL, LibraryReferences) {
                "@l.c) -> | E", "@c(v) -> | E", "@a__b -> | E", "a:@c -> a | EH");
 }
 
-TEST(PathParseVHDL, Names) {
+TEST(PathParseVHDL, Names) { // tested with the reserved words of VHDL, whatever the variant
+  const VHDLMode allWords(2);
+  expectParsed(vhdlGrammar, nullptr, "quantity -> quantity", "pure -> | E");
   expectParsed(vhdlGrammar, nullptr, R"(\a b\:c -> \a b\ c | H)", R"(\a\\b\(3) -> \a\\b\ [3] | I)",
                R"(\a:(b\ -> \a:(b\)", R"(\a -> | E)", R"(\a\b -> \a\ | E)", "\\a\tb\\ -> | E", R"(\ -> | E)",
                "\\a\x80\\ -> | E", "a__b -> | E", "a_ -> | E", "_a -> | E", "a:Entity -> a | EH");

@@ -138,7 +138,9 @@ TEST(PathPrint, NamesAreTranslated) {
   expectPrinted("Spice", {"Tessel"}, 0, "a[3] -> a\\[3\\]");
   expectPrinted("Kirra", {"Kirra"}, 0, R"(a\.b.c -> a\.b.c)");
   expectPrinted("KirraHDL", {"KirraHDL"}, 0, R"(\a+b .c -> \a+b .c)");
-  expectPrinted("VHDL87", {"VHDL"}, 0, "a:b -> :a:b");
+  expectPrinted("VHDL87", {"VHDL"}, 0, "quantity:b -> :quantity:b");
+  expectPrinted("VHDLAMS", {"VHDL"}, 0, "quantity:b -> ::b"); // accepted as in VHDL, but converted by its own words
+  expectPrinted("VerilogAMS", {"VHDL"}, 0, "analog.b -> ::b");
 }
 
 TEST(PathPrint, NamesThatCannotBeWritten) {

@@ -58,6 +58,7 @@ template <typename Conversion> Result convertWith(zelHandle handle, Conversion c
 } // namespace
 
 TEST(CurrentHandle, decidesWhatIsEscaped) {
+  const MapState state(ZEL_MAP_DEFAULT);
   // Separators:Ident→as it is written→as that reads.
   const char *const rows[][2] = {
       {"Sdf Spef Gcf", R"(x/[]:Sxy→\xy→Ixy /x[]:Sxy→xy→Ixy //o]:Soo→\o\o→Ioo //[c:Sc]→\c\]→Ic] X/[]:IX→x→Ix
@@ -118,7 +119,7 @@ struct Probe {
 TEST(CurrentHandle, standsForOneCallWhateverTheSeparatorsAndTheOutcome) {
   for (const Driven &space : drivenSpaces) {
     std::string defaults = "1234";
-    ASSERT_EQ(zelGetHandleDefaults(space.name, &defaults[0], &defaults[1], &defaults[2], &defaults[3]), 1);
+    ASSERT_EQ(zelGetHandleDefaults(space.name, defaults.data(), &defaults[1], &defaults[2], &defaults[3]), 1);
     for (const char separator : {'x', 'X', '9', '#', '%', '\\', ' ', '\t', '\x01', '_', '\x7f', '\x80', '\xff'})
       for (const std::size_t position : {0U, 1U, 2U, 3U}) {
         std::string separators = defaults;

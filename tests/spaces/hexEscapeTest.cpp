@@ -24,17 +24,20 @@ TEST(HexEscape, protectsTheMarkInFrontOfWhatWouldBeDecoded) {
               {"LibraryNT LibraryUnix", "a#", "", "#23", "41", "2e"}};
   for (const auto &row : rows)
     for (const std::string &name : split(row.spaces)) {
+      SCOPED_TRACE(name);
       const Space space = spaceOf(name);
       const std::string self = row.mark + 1;
       const std::vector<std::string> plainOnes = {
           "", "2", "2g", "00", self, self + "2", self + "00", row.literal, self + row.literal};
-      const std::vector<std::string> protectedOnes = {row.escaped, self + row.escaped, self + self, self + self + self};
+      const std::vector<std::string> protectedOnes = {row.escaped, self + row.escaped, self + self,
+                                                      self + self + (row.mark + 1)};
       for (const bool isProtected : {false, true})
         for (const std::string &behind : isProtected ? protectedOnes : plainOnes) {
-          SCOPED_TRACE(name + ": " + row.mark[0] + behind);
-          const std::string written = row.start + (isProtected ? self : "") + behind + row.close;
-          EXPECT_EQ(convert(space.write, ("Sa" + (row.mark[0] + behind)).c_str()), written);
-          EXPECT_EQ(convert(space.read, written.c_str()), "Ia" + (row.mark[0] + behind));
+          const std::string body = row.mark[0] + behind;
+          SCOPED_TRACE(body);
+          const std::string written = (row.start + (isProtected ? self : "")).append(behind).append(row.close);
+          EXPECT_EQ(convert(space.write, ("Sa" + body).c_str()), written);
+          EXPECT_EQ(convert(space.read, written.c_str()), "Ia" + body);
         }
     }
 }

@@ -44,7 +44,7 @@ const struct Language {
   std::size_t count; // of stored words, doubles counted twice
   std::string stored;
   const char *notFound = ""; // stored where the search does not pass
-  std::string complaints = "";
+  std::string complaints = {};
 } languages[] = {
     {"Verilog", zelIsVerilogKeyword, zelVerifyVerilogKeywords, zelIsLegalVerilogNormal, false, 111, verilogWords},
     {"VerilogAMS", zelIsVerilogAMSKeyword, zelVerifyVerilogAMSKeywords, zelIsLegalVerilogAMSNormal, false, 223,
@@ -86,7 +86,7 @@ TEST(Keywords, areFoundWhereTheSearchPasses) {
     }
     for (const std::string &word : asked) {
       const std::string key = language.folds ? cased(word, word.size(), std::tolower) : word;
-      const bool isReserved = found.count(key) != 0;
+      const bool isReserved = found.contains(key);
       EXPECT_EQ(language.isKeyword(word.c_str()), isReserved ? 1 : 0) << word;
       if (language.isNormal != nullptr && isReserved) {
         EXPECT_EQ(language.isNormal(word.c_str()), 0) << word;

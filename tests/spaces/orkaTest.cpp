@@ -10,7 +10,7 @@ TEST(ORKA, holdsIndexGroupsAndEscapesTheRest) {
          .legal = R"(a(3) a(12)b a(3)(4) a#2fb a[1] a|b)",
          .illegal = R"((3)a a() a(x) a(3 a(3)) a(3␣) a(-1) a,b a/b a␣b a\ é)"});
   check({.spaces = "ORKA", .states = {ZEL_MAP_MATCH}, .write = "IA/b→A#2fb", .read = "A→SA"});
-  EXPECT_EQ(convert(zelIdentToORKA, "IA/b"), "a#2fb");
+  EXPECT_EQ(convert(zelIdentToORKA, "SA/b"), "A#2fb");
   EXPECT_EQ(convert(zelORKAToIdent, "a#2fb"), "Ia/b");
   EXPECT_EQ(zelIsLegalORKA("a(3)"), 1);
 }

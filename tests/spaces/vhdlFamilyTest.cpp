@@ -42,9 +42,9 @@ TEST(VHDLFamily, treatsCapitalsByTheMappingState) {
 
 namespace {
 struct ModeRow {
-  int mode;
   const char *environment; // null: not set
-  bool isReserved;         // a word that VHDL-93 added
+  int mode;
+  bool isReserved; // a word that VHDL-93 added
 };
 
 void setEnvironment(const char *value) {
@@ -78,8 +78,8 @@ void setEnvironment(const char *value) {
 // In a process of its own each, for the environment is read once.
 TEST(VHDLFamily, takesReservedWordsFromModeAndEnvironment) {
   testing::FLAGS_gtest_death_test_style = "threadsafe";
-  const ModeRow rows[] = {{0, nullptr, true}, {0, "yes", false},   {0, "YES", false}, {0, "Yes", true},
-                          {0, "yess", true},  {1, nullptr, false}, {2, "yes", true},  {-1, "yes", true}};
+  const ModeRow rows[] = {{nullptr, 0, true}, {"yes", 0, false},   {"YES", 0, false}, {"Yes", 0, true},
+                          {"yess", 0, true},  {nullptr, 1, false}, {"yes", 2, true},  {"yes", -1, true}};
   for (const ModeRow &row : rows) {
     SCOPED_TRACE(std::to_string(row.mode) + " " + resultOf(row.environment).value_or("not set"));
     EXPECT_EXIT(readWith(row), testing::ExitedWithCode(row.isReserved), "");
