@@ -39,6 +39,9 @@ template <typename State> bool isOneOf(State state, std::initializer_list<State>
   return false;
 }
 
+// Appends the index, or range, of a bus that was read, and notes which.
+bool appendBus(zelPath path, bool isRange, std::int32_t first, std::int32_t last);
+
 // A level separator follows: notes an index or range in the middle of the path.
 void noteMid(zelPath path);
 

@@ -52,6 +52,11 @@ std::int32_t zeli::readSigned(const char *&text) {
   return isNegative ? -value : value;
 }
 
+bool zeli::appendBus(zelPath path, bool isRange, std::int32_t first, std::int32_t last) {
+  path->flags |= isRange ? flagRange : flagIndex;
+  return isRange ? appendRange(path, first, last) : appendNumber(path, kindIndex, first);
+}
+
 void zeli::noteMid(zelPath path) {
   const std::uint8_t kind = lastItem(path);
   if (isForm(kind, kindIndex))

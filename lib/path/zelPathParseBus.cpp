@@ -83,9 +83,7 @@ zelPath parse(zelPath path, const Grammar &grammar, const char *text) {
     } else if (c == grammar.busClose) {
       if (!inBus || (state != number && state != second))
         return reject(path);
-      const bool isRange = state == second;
-      path->flags |= isRange ? flagRange : flagIndex;
-      if (!(isRange ? appendRange(path, first, last) : appendNumber(path, kindIndex, first)))
+      if (!appendBus(path, state == second, first, last))
         return path;
       inBus = false;
       state = bracket;

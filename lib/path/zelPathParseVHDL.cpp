@@ -245,9 +245,8 @@ private:
     if (state != number && state != second)
       return false;
     const bool isRange = state == second;
-    path->flags |= isRange ? flagRange : flagIndex;
     pendingMid = isRange ? PendingMid::range : PendingMid::index;
-    return (isRange ? appendRange(path, first, last) : appendNumber(path, kindIndex, first)) && enter(index);
+    return appendBus(path, isRange, first, last) && enter(index);
   }
 
   bool separate() {

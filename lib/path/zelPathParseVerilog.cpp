@@ -61,17 +61,14 @@ zelPath parse(zelPath path, const Language &language, const char *text) {
         return reject(path);
       state = colon;
       break;
-    case ']': {
+    case ']':
       if (!inBracket || !isOneOf(state, {number, second}))
         return reject(path);
-      const bool isRange = state == second;
-      path->flags |= isRange ? flagRange : flagIndex;
-      if (!(isRange ? appendRange(path, first, last) : appendNumber(path, kindIndex, first)))
+      if (!appendBus(path, state == second, first, last))
         return path;
       inBracket = false;
       state = bracket;
       break;
-    }
     case '{':
       if (inBracket || !isOneOf(state, {start, comma, bracket, number}))
         return reject(path);
