@@ -684,8 +684,8 @@ ZEL_API intptr_t zelPathRemoveIndex(zelPath path) ZEL_NOEXCEPT;
 ZEL_API intptr_t zelPathRemoveLevel(zelPath path) ZEL_NOEXCEPT;
 
 /* Converts the identifier at a byte position of a chunk from text to Ident, stores it there and returns it. A text that
- * does not convert is replaced by a null Ident, without an error flag; with ENOMEM it stays as it is. Anything but an identifier held as text gives
- * null and is left alone. */
+ * does not convert is replaced by a null Ident, without an error flag; with ENOMEM it stays as it is. Anything but an
+ * identifier held as text gives null and is left alone. */
 ZEL_API char *zelStrToIdent(zelPath chunk, uint32_t position) ZEL_NOEXCEPT;
 
 /* ---------------------------------------------------------------------------------------------------------------
