@@ -36,7 +36,7 @@ struct FreeHandle {
 
 // Everything that one caller with separators of its own maps, through its own ring.
 std::vector<std::string> mapAll(int caller) {
-  const auto separator = static_cast<uint32_t>("./|:_-#x"[caller % threadCount]);
+  const auto separator = static_cast<unsigned char>("./|:_-#x"[caller % threadCount]);
   std::vector<std::string> results;
   zelRing ring = nullptr;
   const auto keep = [&results](const char *text) { results.emplace_back(text != nullptr ? text : "(null)"); };
@@ -67,6 +67,7 @@ TEST(Threads, MapAsOneThreadDoes) {
 
   std::array<int, threadCount> differing{};
   std::vector<std::thread> threads;
+  threads.reserve(threadCount);
   for (int caller = 0; caller < threadCount; ++caller)
     threads.emplace_back([&expected, &differing, caller] {
       const auto own = static_cast<size_t>(caller);
