@@ -42,7 +42,7 @@ if(NOT ZEL_COVERAGE AND NOT (ZEL_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "Cla
 endif()
 
 set(ident_check ${PROJECT_SOURCE_DIR}/tests/exports/ident.sh ${CMAKE_STRIP})
-add_test(NAME exports.ident.library COMMAND ${ident_check} $<TARGET_FILE:zel_shared> "ZEL version")
+add_test(NAME exports.ident.shared COMMAND ${ident_check} $<TARGET_FILE:zel_shared> "ZEL version")
 add_test(NAME exports.ident.tool COMMAND ${ident_check} $<TARGET_FILE:zelpath> version "ZEL version")
 
 # --- The public header alone, by every compiler present ------------------------------------------------------------

@@ -61,9 +61,10 @@ bool isUsable(const Name &name) {
 
 // Appends a library reference with Idents of its own. One that memory lacks for stays null.
 bool storeLib(zelPath path, const LibraryReference &reference) {
-  const Name *const parts[] = {&reference.library, &reference.cell, &reference.view};
+  const auto &[library, cell, view] = reference;
+  const Name *const parts[] = {&library, &cell, &view};
   const char *const none[] = {nullptr, nullptr, nullptr};
-  const bool hasView = reference.view.begin != nullptr;
+  const bool hasView = view.begin != nullptr;
   const std::size_t count = hasView ? 3 : 2;
   if (!appendPointers(path, kindNone, hasView ? kindLibView : kindLib, count, none))
     return false;
