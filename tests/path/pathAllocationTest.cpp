@@ -6,50 +6,6 @@
 
 namespace {
 
-// malloc and calloc of this program fail once, when mallocsLeft calls were served; never from -1 on.
-thread_local int mallocsLeft = -1;
-thread_local int mallocFailures = 0;
-
-[[maybe_unused]] bool mallocFails() {
-  if (mallocsLeft < 0 || mallocsLeft-- > 0)
-    return false;
-  ++mallocFailures;
-  return true;
-}
-
-} // namespace
-
-// They stand on what would serve without them: the sanitizer's, where there is one, or the C library's. ThreadSanitizer
-// allocates before it can bear instrumented functions; there malloc is left alone.
-#if defined(__SANITIZE_THREAD__)
-#define LEAVES_MALLOC_ALONE
-#elif defined(__has_feature)
-#if __has_feature(thread_sanitizer)
-#define LEAVES_MALLOC_ALONE
-#endif
-#endif
-#ifndef LEAVES_MALLOC_ALONE
-// NOLINTBEGIN(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
-extern "C" {
-void *__interceptor_malloc(std::size_t size) __attribute__((weak));
-void *__interceptor_calloc(std::size_t count, std::size_t size) __attribute__((weak));
-void *__libc_malloc(std::size_t size);
-void *__libc_calloc(std::size_t count, std::size_t size);
-
-void *malloc(std::size_t size) noexcept {
-  return mallocFails() ? nullptr : __interceptor_malloc != nullptr ? __interceptor_malloc(size) : __libc_malloc(size);
-}
-void *calloc(std::size_t count, std::size_t size) noexcept {
-  return mallocFails()                     ? nullptr
-         : __interceptor_calloc != nullptr ? __interceptor_calloc(count, size)
-                                           : __libc_calloc(count, size);
-}
-}
-// NOLINTEND(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
-#endif
-
-namespace {
-
 // With the parameter true memory comes from the caller's allocator, otherwise from malloc.
 class PathAllocation : public testing::TestWithParam<bool> {
 protected:
@@ -57,16 +13,12 @@ protected:
   const zelAllocFunc alloc = GetParam() ? Memory::alloc : nullptr;
   const zelFreeFunc free = GetParam() ? Memory::free : nullptr;
   Memory *const context = GetParam() ? &memory : nullptr;
-  int &left = GetParam() ? memory.left : mallocsLeft;
-  int &failures = GetParam() ? memory.failures : mallocFailures;
+  int &left = GetParam() ? memory.left : failingMalloc::left;
+  int &failures = GetParam() ? memory.failures : failingMalloc::failures;
   int error = 0; // of what was to fail
 
   void SetUp() override {
-    mallocsLeft = 0;
-    void *volatile block = std::malloc(1);
-    mallocsLeft = -1;
-    std::free(block);
-    if (!GetParam() && block != nullptr)
+    if (!GetParam() && !failingMalloc::isInPlace())
       GTEST_SKIP() << "something else stands in for malloc";
   }
   void TearDown() override { EXPECT_TRUE(memory.live.empty()); }

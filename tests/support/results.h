@@ -3,6 +3,7 @@
 #define SUPPORT_RESULTS_H
 
 #include "core/zel.h"
+#include "failingMalloc.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -39,7 +40,8 @@ struct Allocator {
 };
 
 // The result of a conversion, which must be the same from malloc, in the caller's buffer and from an allocator; that is
-// asked once, for exactly the text and its NUL. errno is the conversion's, 0 when it set none.
+// asked once, for exactly the text and its NUL. Where either has no memory, null and ENOMEM. errno is the conversion's,
+// 0 when it set none.
 template <typename Conversion> Result convert(Conversion conversion, const char *input) {
   errno = 0;
   const Owned owned(conversion(input, nullptr, nullptr));
@@ -60,6 +62,18 @@ template <typename Conversion> Result convert(Conversion conversion, const char 
     EXPECT_EQ(allocated, nullptr);
   }
   EXPECT_EQ(allocator.requests, owned ? 1 : 0);
+  static const bool mallocFails = failingMalloc::isInPlace();
+  for (const bool ofMalloc : {true, false}) {
+    if (!owned || (ofMalloc && !mallocFails))
+      continue;
+    errno = 0;
+    allocator.gives = false;
+    failingMalloc::left = ofMalloc ? 0 : -1;
+    EXPECT_EQ(ofMalloc ? conversion(input, nullptr, nullptr) : conversion(input, Allocator::allocate, &allocator),
+              nullptr);
+    failingMalloc::left = -1;
+    EXPECT_EQ(errno, ENOMEM);
+  }
   errno = error;
   return resultOf(owned.get());
 }
