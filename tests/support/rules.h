@@ -47,7 +47,7 @@ inline std::vector<Space> allSpaces() {
 
 // The words of a text, in which visible characters stand for others.
 inline std::vector<std::string> split(const char *text) {
-  constexpr const char *visible[][2] = {{"␣", " "}, {"␉", "\t"}, {"␊", "\n"}, {"␁", "\x01"}, {"é", "\xe9"}};
+  constexpr const char *visible[][2] = {{"␣", " "}, {"·", " "}, {"␉", "\t"}, {"␊", "\n"}, {"␁", "\x01"}, {"é", "\xe9"}};
   std::istringstream stream(text);
   std::vector<std::string> words = {std::istream_iterator<std::string>(stream), {}};
   for (std::string &word : words)
