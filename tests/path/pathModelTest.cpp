@@ -41,34 +41,34 @@ TEST(PathModel, ItemsAreStoredAsKindAndNumbers) {
 TEST(PathModel, GettersReadOnlyTheirKind) {
   const Path path = built("Sa [3] [7:1] [0:600:2] <*5> @Sl.Sc");
   zelPathGenStart(path.get());
-  for (const char *const row :
-       {"1 -1 -1:-1 40:40:41 -1 Sa l.c.v", "2 3 -1:-1 40:40:41 -1 - l.c.v", "3 -1 7:1 40:40:41 -1 - l.c.v",
-        "4 -1 0:600 0:600:2 -1 - l.c.v", "5 -1 -1:-1 40:40:41 5 - l.c.v", "12 -1 -1:-1 40:40:41 -1 - Sl.Sc.-",
-        "13 -1 -1:-1 40:40:41 -1 - l.c.v", "13 -1 -1:-1 40:40:41 -1 - l.c.v"}) {
-    int range[] = {0, 0}, step[] = {0, 0, 41};
-    const char *names[] = {"l", "c", "v"}, *end = "end";
+  for (const std::string &row :
+       split("1·-1·-1:-1·40:40:41·-1·Sa·l.c.v 2·3·-1:-1·40:40:41·-1·-·l.c.v 3·-1·7:1·40:40:41·-1·-·l.c.v "
+             "4·-1·0:600·0:600:2·-1·-·l.c.v 5·-1·-1:-1·40:40:41·5·-·l.c.v 12·-1·-1:-1·40:40:41·-1·-·Sl.Sc.- "
+             "13·-1·-1:-1·40:40:41·-1·-·l.c.v 13·-1·-1:-1·40:40:41·-1·-·l.c.v")) {
+    int from = 0, to = 0, stepFrom = 0, stepTo = 0, step = 41;
+    const char *library = "l", *cell = "c", *view = "v", *end = "end";
     std::ostringstream read;
     read << zelPathGenNext(path.get()) << ' ' << zelPathGetIndex(path.get()) << ' ';
-    zelPathGetRange(path.get(), &range[0], &range[1]);
-    zelPathGetStepRange(path.get(), &step[0], &step[1], &step[2]);
-    read << range[0] << ':' << range[1] << ' ' << step[0] << ':' << step[1] << ':' << step[2] << ' ';
-    zelPathGetLib(path.get(), &names[0], &names[1], &names[2]);
-    read << zelPathGetRepeat(path.get()) << ' ' << resultOf(zelPathGetIdent(path.get())).value_or("-") << ' '
-         << names[0] << '.' << names[1] << '.' << resultOf(names[2]).value_or("-");
+    zelPathGetRange(path.get(), &from, &to);
+    zelPathGetStepRange(path.get(), &stepFrom, &stepTo, &step);
+    zelPathGetLib(path.get(), &library, &cell, &view);
+    read << from << ':' << to << ' ' << stepFrom << ':' << stepTo << ':' << step << ' ' << zelPathGetRepeat(path.get())
+         << ' ' << resultOf(zelPathGetIdent(path.get())).value_or("-") << ' ' << library << '.' << cell << '.'
+         << resultOf(view).value_or("-");
     EXPECT_EQ(read.str(), row);
     EXPECT_EQ(zelPathGetString(path.get(), &end), nullptr);
     EXPECT_EQ(end, nullptr);
   }
 }
 
-// On request (and then kept as text when it fails), or for printing (and then lost when it fails).
+// On request (and then kept as text when it fails), or for printing (and then lost when it fails). Verilog's plain
+// names have case, those of the other languages none where no capital says so.
 TEST(PathModel, NamesAreConvertedOnce) {
   for (const std::string source : sources) {
     SCOPED_TRACE(source);
-    // Verilog's plain names have case, those of the other languages none where no capital says so.
     const char *const expected = source == "Verilog" || source == "VerilogAMS" || source == "KirraHDL" ? "Sa" : "Ia";
     const bool isSpice = source == "Spice";
-    const Path path = parse(source, "a");
+    const Path path = parse(source, "a"), other = parse(source, "a");
     zelPathGenStart(path.get());
     zelPathGenNext(path.get());
     const char *end = nullptr;
@@ -78,19 +78,16 @@ TEST(PathModel, NamesAreConvertedOnce) {
     EXPECT_EQ(zelPathGetIdent(path.get()), ident);
     EXPECT_EQ(zelPathGetString(path.get(), &end), nullptr);
     EXPECT_EQ(flagsOf(path.get()), "");
-    const Path other = parse(source, "a");
     EXPECT_STREQ(zelStrToIdent(other.get(), 0), expected);
     EXPECT_EQ(zelStrToIdent(other.get(), 0), nullptr);
-    EXPECT_EQ(itemsOf(other.get()), expected);
   }
   const Path illegal = parse("Sdf", "a.b/c"); // scans, but does not convert
   zelPathGenStart(illegal.get());
   zelPathGenNext(illegal.get());
   EXPECT_EQ(zelPathGetIdent(illegal.get()), nullptr);
   EXPECT_EQ(itemsOf(illegal.get()) + flagsOf(illegal.get()), "a.b cEH");
-  illegal->flags &= ~1U;
   EXPECT_EQ(zelStrToIdent(illegal.get(), 0), nullptr);
-  EXPECT_EQ(itemsOf(illegal.get()) + flagsOf(illegal.get()), "- cH");
+  EXPECT_EQ(itemsOf(illegal.get()), "- c");
   EXPECT_EQ(zelStrToIdent(illegal.get(), 99), nullptr);
   const Handle dots = handleOf("Def", '.', '<', '>'); // the path's own
   EXPECT_STREQ(zelStrToIdent(parse("Def", R"(a\<[.b)", dots.get()).get(), 0), "Ia<[");
@@ -110,60 +107,47 @@ TEST(PathModel, FlagsAreReportedRearranged) {
   path->flags = 0;
 }
 
+// "path location→result item location": what setting gives, and the item behind with its location. p has items in the
+// bytes 0, 1 and 3; l has eight in the head.
 TEST(PathModel, Locations) {
-  const Path path = built("Sa [3] Sb"),
-             longer = built(repeated("Sa ", 10));         // in the bytes 0, 1 and 3; eight in the head
-  EXPECT_EQ(zelPathGetLocation(path.get()), 256U + 200U); // nowhere yet
-  zelPathGenStart(path.get());
-  for (const std::uint32_t location : {0U, 256U, 257U, 259U, 256U + 200U}) {
-    EXPECT_EQ(zelPathGetLocation(path.get()), location);
-    zelPathGenNext(path.get());
-  }
-  // "path location→result item location": what setting gives, and the item behind with its location.
+  const Path p = built("Sa [3] Sb"), l = built(repeated("Sa ", 10));
+  EXPECT_EQ(zelPathGetLocation(p.get()), 256U + 200U); // nowhere yet
   for (const Row &row :
        rowsOf("p0→0·1·256 p256→1·2·257 p257→1·1·259 p259→1·13·456 p260→1·13·456 p265→4·13·456 "
               "p512→4·13·456 p4294967295→4·13·456 p3→0·13·456 l262→1·1·263 l263→1·1·512 l512→1·1·513")) {
-    const zelPath walked = row.input[0] == 'p' ? path.get() : longer.get();
-    std::string found =
-        std::to_string(zelPathSetLocation(walked, static_cast<std::uint32_t>(std::stoul(row.input.substr(1)))));
-    found += ' ' + std::to_string(zelPathGenNext(walked));
-    EXPECT_EQ(found + ' ' + std::to_string(zelPathGetLocation(walked)), row.result) << row.input;
+    const zelPath path = row.input[0] == 'p' ? p.get() : l.get();
+    const auto result = zelPathSetLocation(path, static_cast<std::uint32_t>(std::stoul(row.input.substr(1))));
+    const std::string found = std::to_string(result) + ' ' + std::to_string(zelPathGenNext(path));
+    EXPECT_EQ(found + ' ' + std::to_string(zelPathGetLocation(path)), row.result) << row.input;
   }
-  zelPathSetLocation(path.get(), 260);
-  EXPECT_EQ(zelPathGetIndex(path.get()), -1); // nothing stands at the end
-  EXPECT_EQ(zelPathGetIdent(path.get()), nullptr);
+  zelPathSetLocation(p.get(), 260);
+  EXPECT_EQ(zelPathGetIndex(p.get()), -1); // nothing stands at the end
+  EXPECT_EQ(zelPathGetIdent(p.get()), nullptr);
   // Back by what the walk takes the last item to be, and looked for in the first chunk.
-  for (const auto &[items, location] : {std::pair("", 0U),
-                                        {"Sa [3] Sb", 259},
-                                        {"Sa [0:200]", 257},
-                                        {"Sa [0:6:2]", 258},
-                                        {"Sa Sa Sa Sa Sa Sa Sa Sa Sa Sa", 256 + 200 - 1}})
-    EXPECT_EQ(zelPathGetLastLocation(built(items).get()), location) << items;
+  for (const Row &row : rowsOf("→0 Sa·[3]·Sb→259 Sa·[0:200]→257 Sa·[0:6:2]→258 Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa→455"))
+    EXPECT_EQ(std::to_string(zelPathGetLastLocation(built(row.input).get())), row.result) << row.input;
 }
 
-// The level is looked for in front of the index's own kind.
+// "items→index bytes level bytes": the results (chunk for the chunk) and the bytes left. The level is looked for in
+// front of the index's own kind.
 TEST(PathModel, RemovalOfIndexesAndLevels) {
-  struct {
-    const char *items;
-    intptr_t index, level;    // the results; 0: the chunk
-    int usedIndex, usedLevel; // bytes that are left
-  } const rows[] = {{"Sa", 25, 0, 1, 0},        {"Sa [3]", 0, -17, 2, 2},     {"Sa [300]", 0, -16, 4, 4},
-                    {"Sa [3:0]", 0, -15, 3, 3}, {"Sa [0:6:2]", 0, -13, 4, 4}, {"Sa <*2>", 6, -11, 3, 3},
-                    {"Sa }", 10, -7, 2, 2},     {"Sa @Sl.Sc", 42, 25, 3, 3},  {"", -2, -19, 0, 0}};
-  for (const auto &row : rows) {
-    SCOPED_TRACE(row.items);
-    const Path index = built(row.items), level = built(row.items);
-    EXPECT_EQ(zelPathRemoveIndex(index.get()), row.index == 0 ? reinterpret_cast<intptr_t>(index.get()) : row.index);
-    EXPECT_EQ(zelPathRemoveLevel(level.get()), row.level == 0 ? reinterpret_cast<intptr_t>(level.get()) : row.level);
-    EXPECT_EQ(index->used, row.usedIndex);
-    EXPECT_EQ(level->used, row.usedLevel);
+  for (const Row &row : rowsOf(R"(Sa→25·1·chunk·0 Sa·[3]→chunk·2·-17·2 Sa·[300]→chunk·4·-16·4 Sa·[3:0]→chunk·3·-15·3
+           Sa·[0:6:2]→chunk·4·-13·4 Sa·<*2>→6·3·-11·3 Sa·}→10·2·-7·2 Sa·@Sl.Sc→42·3·25·3 →-2·0·-19·0)")) {
+    std::string found;
+    for (const auto remove : {zelPathRemoveIndex, zelPathRemoveLevel}) {
+      const Path path = built(row.input);
+      const intptr_t result = remove(path.get());
+      found += (found.empty() ? "" : " ") +
+               (result == reinterpret_cast<intptr_t>(path.get()) ? "chunk" : std::to_string(result));
+      found += ' ' + std::to_string(path->used);
+    }
+    EXPECT_EQ(found, row.result) << row.input;
   }
-  // A chunk that is emptied is free for what is added next.
   const Path path = built(repeated("Sa ", 9));
   const zelPath second = path->next;
   EXPECT_EQ(zelPathRemoveLevel(path.get()), reinterpret_cast<intptr_t>(second));
   EXPECT_EQ(itemsOf(path.get()), repeated("Sa ", 7) + "Sa");
-  zelPathAddIdent(path.get(), "Sb", 1);
+  zelPathAddIdent(path.get(), "Sb", 1); // into the chunk that was emptied
   EXPECT_EQ(path->next, second);
   EXPECT_EQ(itemsOf(path.get()), repeated("Sa ", 8) + "Sb");
 }
@@ -215,31 +199,29 @@ TEST(PathModel, ReleasesWhatItOwnsOnce) {
 TEST(PathModel, NullArguments) {
   for (const auto call : {zelPathAddListStart, zelPathAddList, zelPathAddListEnd, zelPathGenStart})
     call(nullptr);
-  zelPathAddTopIdent(nullptr, "Sa", 1);
-  zelPathAddIdent(nullptr, "Sa", 1);
+  for (const auto call : {zelPathAddTopIdent, zelPathAddIdent})
+    call(nullptr, "Sa", 1);
+  for (const auto call : {zelPathAddIndex, zelPathAddRepeat})
+    call(nullptr, 1);
+  for (const auto call : {zelPathRemoveFromLocation, zelFreePathFromLocation})
+    call(nullptr, 256, nullptr, nullptr);
   zelPathAddLib(nullptr, "Sl", "Sc", nullptr, 1);
-  zelPathAddIndex(nullptr, 1);
   zelPathAddRange(nullptr, 1, 2);
   zelPathAddStepRange(nullptr, 1, 2, 3);
-  zelPathAddRepeat(nullptr, 1);
-  zelPathRemoveFromLocation(nullptr, 256, nullptr, nullptr);
-  zelFreePathFromLocation(nullptr, 256, nullptr, nullptr);
   EXPECT_EQ(zelPathGetFlag(nullptr), 0);
   EXPECT_EQ(zelPathGetLocation(nullptr) + zelPathSetLocation(nullptr, 256) + zelPathGetLastLocation(nullptr), 0U);
   EXPECT_EQ(zelPathRemoveIndex(nullptr) + zelPathRemoveLevel(nullptr), -21);
   EXPECT_EQ(zelStrToIdent(nullptr, 0), nullptr);
-  for (const zelPath path : {zelPath(), parse("Verilog", "a[0:600]").release()}) {
-    zelPathGenStart(path);
+  const Path some = built("Sa [0:600] @Sl.Sc");
+  for (const zelPath path : {zelPath(), some.get()})
     for (int item = 0; item != ZEL_ITEM_END; item = zelPathGenNext(path)) {
-      zelPathGetIdent(path);
       EXPECT_EQ(zelPathGetIndex(path) + zelPathGetRepeat(path), -2);
+      EXPECT_EQ(zelPathGetIdent(path) != nullptr, path != nullptr && item == ZEL_ITEM_IDENT);
       zelPathGetString(path, nullptr);
       zelPathGetRange(path, nullptr, nullptr);
       zelPathGetStepRange(path, nullptr, nullptr, nullptr);
       zelPathGetLib(path, nullptr, nullptr, nullptr);
     }
-    zelFreePath(path, nullptr, nullptr);
-  }
 }
 
 } // namespace

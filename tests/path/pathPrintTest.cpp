@@ -1,4 +1,4 @@
-// What the printers write, as "text→printed text", and how they expand.
+// What the printers write, as "text→printed text", and what they expand to.
 #include "path/pathSupport.h"
 
 #include <map>
@@ -9,34 +9,25 @@ constexpr int explode = ZEL_PRINT_EXPLODE;
 constexpr int top = ZEL_PRINT_TOP;
 constexpr int group = ZEL_PRINT_GROUP;
 
-// Cases "text→printed text" behind words that say how: a source with '>' ("built>" for items as itemsOf shows them),
-// targets, and flags with '+'.
-void expectPrinted(const char *table) {
+// Behind a source with '>' ("built>" for items as itemsOf shows them), targets, and flags with '+'.
+void expectPrinted(const std::string &table) {
   const std::map<std::string, int> flagNames = {
       {"+explode", explode}, {"+noRepeat", ZEL_PRINT_NOREPEAT}, {"+group", group}, {"+top", top}};
   std::string source;
-  std::vector<std::string> spaces;
-  int flags = 0;
-  bool isHead = false;
-  for (const std::string &word : split(table)) {
-    const std::size_t arrow = word.find("→");
-    if (!isHead && arrow == std::string::npos) {
-      spaces.clear();
-      flags = 0;
-    }
-    isHead = arrow == std::string::npos;
-    const std::string text = word.substr(0, arrow);
-    if (!isHead)
-      for (const std::string &target : spaces)
-        EXPECT_EQ(source == "built" ? printed(built(text), target, flags) : mapped(source, text, target, flags),
-                  word.substr(arrow + std::strlen("→")))
-            << text << " of " << source << " in " << target << " with " << flags;
-    else if (word.back() == '>')
-      source.assign(word, 0, word.size() - 1);
-    else if (word[0] == '+')
-      flags |= flagNames.at(word);
-    else
-      spaces.push_back(word);
+  for (const Case &row : casesOf(table)) {
+    std::vector<std::string> spaces;
+    int flags = 0;
+    for (const std::string &head : row.heads)
+      if (head.back() == '>')
+        source.assign(head, 0, head.size() - 1);
+      else if (head[0] == '+')
+        flags |= flagNames.at(head);
+      else
+        spaces.push_back(head);
+    for (const std::string &target : spaces)
+      EXPECT_EQ(source == "built" ? printed(built(row.text), target, flags) : mapped(source, row.text, target, flags),
+                row.result)
+          << row.text << " of " << source << " in " << target << " with " << flags;
   }
 }
 
@@ -140,7 +131,7 @@ TEST(PathExplode, Enumerations) {
       a<0:1*1>→a[0],a[1],a[0],a[1] a<0:2:2*1>→a[0],a[2],a[0],a[2] a<(0,1)*1>→a[0],a[1],a[0],a[1]
       a<(0:1*1)>→a[0],a[1],a[0],a[1] a<3,1*1,4>→a[3],a[1],a[1],a[4] a<1,2>,b<3,4>→a[1],a[2],b[3],b[4]
       a<((0,1)*1(2))*1>→a[0],a[1],a[0],a[1],a[2],a[0],a[1],a[0],a[1],a[2])";
-  expectPrinted(("ORKA> Verilog " + always + " Verilog +explode " + always).c_str());
+  expectPrinted("ORKA> Verilog " + always + " Verilog +explode " + always);
   expectPrinted(R"(
       ORKA> Verilog a<1,2:3>→a[1],a[2:3] a<1*1,3>→a[1][3],a[1][3] a<1:0>/b<0:2:2>→a[1:0].b[0],a[1:0].b[2]
             Verilog +explode a<1,2:3>→a[1],a[2],a[3] a<(1:0,5)*1>→a[1],a[0],a[5],a[1],a[0],a[5]
@@ -164,7 +155,7 @@ TEST(PathExplode, Enumerations) {
 TEST(PathExplode, GroupRepeats) {
   const std::string kept = R"(<*2>a<1:0>,b<1:0>→2{a[1:0]}},b[1],b[0] <*2>(a<1:0>,b<1:0>)→2{a[1:0],b[1],b[0]}
       <*2>a<0:2:2>→2{a!ERROR!}})";
-  expectPrinted(("ORKA> Verilog +explode " + kept + " Verilog +explode +noRepeat " + kept).c_str());
+  expectPrinted("ORKA> Verilog +explode " + kept + " Verilog +explode +noRepeat " + kept);
   expectPrinted(R"(ORKA> Verilog <*2>(a<0:2:2>)→2{a[0],a[2]} <*2>a<0:2:2>→2{a[0],a[2]}}
       Verilog +noRepeat <*2>a<0:2:2>→2{a!ERROR!}} <*2>a<1,2*3>→2{a[1][2]!ERROR!}}
       built> ORKA Sa·<*2>·Sb→a,<*2>b Sa·[3]·<*2>·Sb·}→a<3,<*2>>b) Verilog Sa·<*2>·Sb·[0:2:2]→a2{.b[0],b[2]}}

@@ -131,6 +131,28 @@ inline Path built(const std::string &items) {
   return owner;
 }
 
+// The cases of a table, "head head text→result text→result head …": each with the heads that it stands behind.
+struct Case {
+  std::vector<std::string> heads;
+  std::string text, result;
+};
+inline std::vector<Case> casesOf(const std::string &table) {
+  std::vector<Case> cases;
+  std::vector<std::string> heads;
+  bool inHeads = false;
+  for (const std::string &word : split(table.c_str())) {
+    const std::size_t arrow = word.find("→");
+    if (arrow == std::string::npos && !inHeads)
+      heads.clear();
+    inHeads = arrow == std::string::npos;
+    if (inHeads)
+      heads.push_back(word);
+    else
+      cases.push_back({heads, word.substr(0, arrow), word.substr(arrow + std::strlen("→"))});
+  }
+  return cases;
+}
+
 // text must outlive the path.
 inline Path parse(const std::string &source, const char *text, zelHandle handle = nullptr) {
   return Path(parserOf(source)(text, handle, nullptr, nullptr));
