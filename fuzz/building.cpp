@@ -3,128 +3,68 @@
 
 #include <unordered_set>
 
-using namespace fuzz;
-
 namespace {
 
-constexpr const char *idents[] = {"Stop", "Iu_core", "SA b", "F#23x", "I"};
+std::unordered_set<void *> given;
+void *allocate(uint64_t size, void *) { return *given.insert(std::malloc(size)).first; }
+void release(void *memory, void *) {
+  require(given.erase(memory) == 1, "what is released was given");
+  std::free(memory);
+}
 
-// Memory that knows what it gave, so that a path must return all of it and nothing else.
-struct Memory {
-  std::unordered_set<void *> given;
-
-  static void *allocate(uint64_t size, void *context) {
-    void *memory = std::malloc(size);
-    static_cast<Memory *>(context)->given.insert(memory);
-    return memory;
-  }
-  static void release(void *memory, void *context) {
-    require(static_cast<Memory *>(context)->given.erase(memory) == 1, "what is released was given");
-    std::free(memory);
-  }
+// Indexed by the kind of item, except the last.
+constexpr void (*adders[])(zelPath path, const char *ident, const int32_t *numbers) = {
+    [](zelPath path, const char *ident, const int32_t *) { zelPathAddTopIdent(path, ident, 1); },
+    [](zelPath path, const char *ident, const int32_t *) { zelPathAddIdent(path, ident, 1); },
+    [](zelPath path, const char *, const int32_t *n) { zelPathAddIndex(path, n[0]); },
+    [](zelPath path, const char *, const int32_t *n) { zelPathAddRange(path, n[0], n[1]); },
+    [](zelPath path, const char *, const int32_t *n) { zelPathAddStepRange(path, n[0], n[1], n[2]); },
+    [](zelPath path, const char *, const int32_t *n) { zelPathAddRepeat(path, n[0]); },
+    [](zelPath path, const char *, const int32_t *) { zelPathAddListStart(path); },
+    [](zelPath path, const char *, const int32_t *) { zelPathAddList(path); },
+    [](zelPath path, const char *, const int32_t *) { zelPathAddListEnd(path); },
+    [](zelPath path, const char *s, const int32_t *n) { zelPathAddLib(path, s, nullptr, n[0] < 0 ? s : nullptr, 1); },
 };
 
-int32_t number(FuzzedDataProvider &input) {
-  return input.ConsumeBool() ? input.ConsumeIntegral<int8_t>()
-                             : input.ConsumeIntegralInRange<int32_t>(ZEL_MIN_NUMBER - 2, ZEL_MAX_NUMBER + 2);
-}
-
-void add(FuzzedDataProvider &input, zelPath path) {
-  const char *ident = input.PickValueInArray(idents);
-  switch (input.ConsumeIntegralInRange<int>(0, 9)) {
-  case 0:
-    return zelPathAddTopIdent(path, ident, 1);
-  case 1:
-    return zelPathAddIdent(path, ident, 1);
-  case 2:
-    return zelPathAddLib(path, ident, nullptr, input.ConsumeBool() ? ident : nullptr, 1);
-  case 3:
-    return zelPathAddIndex(path, number(input));
-  case 4:
-    return zelPathAddRange(path, number(input), number(input));
-  case 5:
-    return zelPathAddStepRange(path, number(input), number(input), number(input));
-  case 6:
-    return zelPathAddRepeat(path, number(input));
-  case 7:
-    return zelPathAddListStart(path);
-  case 8:
-    return zelPathAddList(path);
-  default:
-    return zelPathAddListEnd(path);
-  }
-}
-
-void readAll(zelPath path) {
-  int32_t from = 0;
-  int32_t to = 0;
-  int32_t step = 0;
-  const char *end = nullptr;
-  const char *names[3] = {};
-  zelPathGetIndex(path);
-  zelPathGetRange(path, &from, &to);
-  zelPathGetStepRange(path, &from, &to, &step);
-  zelPathGetRepeat(path);
-  zelPathGetString(path, &end);
-  zelPathGetLib(path, names, names + 1, names + 2);
-  const char *ident = zelPathGetIdent(path);
-  require(ident == nullptr || *ident != '\0', "an Ident of the walk");
-}
-
-void walk(zelPath path, int steps) {
-  zelPathGenStart(path);
-  require(zelPathGetLocation(path) == 0, "a walk starts at 0");
-  for (int i = 0; i < steps && zelPathGenNext(path) != ZEL_ITEM_END; ++i) {
-    readAll(path);
-    const uint32_t location = zelPathGetLocation(path);
-    zelPathSetLocation(path, location);
-    require(zelPathGetLocation(path) == location, "a location of the walk can be set");
-  }
-}
-
-void print(FuzzedDataProvider &input, zelPath path) {
-  const int32_t flags = input.ConsumeIntegralInRange<int32_t>(0, 31);
-  const auto print = input.PickValueInArray(
-      {zelPathToVerilogEx, zelPathToVHDLEx, zelPathToORKAEx, zelPathToSdfEx, zelPathToTesselEx, zelPathToKirraEx});
-  withEveryMemory([=](zelAllocFunc alloc, void *context) { return print(path, nullptr, flags, alloc, context); });
+// Adds an item and returns its kind.
+int add(FuzzedDataProvider &input, zelPath path) {
+  const int kind = input.ConsumeIntegralInRange<int>(ZEL_ITEM_TOP_IDENT, ZEL_ITEM_LIST_END + 1);
+  int32_t numbers[3];
+  for (int32_t &number : numbers)
+    number = input.ConsumeBool() ? input.ConsumeIntegral<int8_t>()
+                                 : input.ConsumeIntegralInRange<int32_t>(ZEL_MIN_NUMBER - 2, ZEL_MAX_NUMBER + 2);
+  adders[kind](path, input.PickValueInArray({"Stop", "Iu_core", "SA b", "F#23x", "I"}), numbers);
+  return kind <= ZEL_ITEM_LIST_END ? kind : ZEL_ITEM_LIB;
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
   FuzzedDataProvider input(data, size);
-  Memory memory;
-  const zelPath path = zelCreatePath(Memory::allocate, &memory);
+  const zelPath path = zelCreatePath(allocate, nullptr);
+  std::vector<int> added;
+  bool isCut = false;
   while (input.remaining_bytes() != 0) {
-    switch (input.ConsumeIntegralInRange<int>(0, 9)) {
-    default:
-      add(input, path);
-      break;
-    case 4:
-      walk(path, input.ConsumeIntegral<uint8_t>());
-      break;
-    case 5:
-      zelPathSetLocation(path, input.ConsumeIntegral<uint16_t>());
-      readAll(path);
-      break;
-    case 6:
-      zelPathSetLocation(path, zelPathGetLastLocation(path));
-      break;
-    case 7:
-      zelPathRemoveFromLocation(path, input.ConsumeIntegral<uint16_t>() % 0x400U, Memory::release, &memory);
-      break;
-    case 8:
-      if (input.ConsumeBool())
-        zelPathRemoveIndex(path);
-      else
-        zelPathRemoveLevel(path);
-      break;
-    case 9:
-      print(input, path);
-      break;
-    }
+    const int call = input.ConsumeIntegralInRange<int>(0, 9);
+    const uint32_t argument = input.ConsumeIntegral<uint16_t>();
+    isCut = isCut || call > 6;
+    if (call < 5)
+      added.push_back(add(input, path));
+    else if (call == 5)
+      walk(path, argument % 2 == 0 ? argument : zelPathGetLastLocation(path));
+    else if (call == 6)
+      print(path, handle(input, space(input)), static_cast<int32_t>(argument % 32));
+    else if (call == 7)
+      zelPathRemoveFromLocation(path, argument % 0x400U, release, nullptr);
+    else
+      (call == 8 ? zelPathRemoveIndex : zelPathRemoveLevel)(path);
   }
-  zelFreePath(path, Memory::release, &memory);
-  require(memory.given.empty(), "all memory is returned");
+  const std::vector<Item> found = walk(path);
+  if (!isCut && (zelPathGetFlag(path) & ZEL_PATH_ERROR) == 0) // as by a number out of range
+    require(std::equal(found.begin(), found.end(), added.begin(), added.end(),
+                       [](const Item &item, int kind) { return item.kind == kind; }),
+            "the walk finds what was added");
+  zelFreePath(path, release, nullptr);
+  require(given.empty(), "all memory is returned");
   return 0;
 }
