@@ -22,6 +22,7 @@ TEST(PathModel, ItemsAreStoredAsKindAndNumbers) {
            [0:0:124]→7·192·154·140·192·154·140·188·155·140 <*2>→8·134 <*124>→9·188·155·140 {·,·}→11·10·12
            ^Sa·Sb→18·27·28 @Sl.Sc·@Sl.Sc(Sv)→17·43·17·53
            [0]·[1]·[2]·[3]·[4]·[5]·[6]·[0:200]→2·132·2·133·2·134·2·135·2·136·2·137·2·138·|·5·192·154·140·136·156·140
+           [0]·[0]·[0]·[0]·[0]·[0]·[0]·[0]·[0:1]→2·132·2·132·2·132·2·132·2·132·2·132·2·132·2·132·4·132·133
            Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·@Sl.Sc(Sv)·@Sl.Sc→27·28·29·30·31·32·33·34·|·27·28·17·53·17·48
            ,·,·,·,·,·,·,·,·,·,·,·,·,·,·,·,·,·,·^Sa→10·10·10·10·10·10·10·10·10·10·10·10·10·10·10·10·10·10·|·18·27)")) {
     const Path path = built(row.input);
@@ -187,6 +188,10 @@ TEST(PathModel, ReleasesWhatItOwnsOnce) {
   const std::size_t all = memory.live.size();
   zelFreePathFromLocation(path->next, path->next->used, Memory::free, &memory); // nothing is left to release there
   EXPECT_EQ(memory.live.size(), all);
+  zelPathSetLocation(path, 0);
+  while (zelPathGenNext(path) != ZEL_ITEM_LIB) {
+  }
+  zelPathRemoveFromLocation(path, zelPathGetLocation(path), Memory::free, &memory); // behind the mark of shared names
   zelFreePath(path, Memory::free, &memory);
   EXPECT_EQ(memory.live, std::set<void *>{borrowed});
   Memory::free(borrowed, &memory);

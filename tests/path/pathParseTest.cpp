@@ -93,7 +93,7 @@ TEST(PathParse, BusFormats) {
       Tessel |top|a[3]→top·a·[3]|HI/ a/b:c→a/b:c a\|b\[|c→a\|b\[·c|H a[3]|b→a·[3]·b|HIm a|→a|EH a␣[1:0]→a·[1:0]|R
       [3]→[3]|EI a[3][4]→a·[3]·[4]|EI a|[3]|b→a·[3]·b|EHIm a[3[4]→a·[4]|EI ||[→|E/
       FlatTessel top_u1_n[3]→top_u1_n·[3]|I a|b/c:d[1:0]→a|b/c:d·[1:0]|R a\[3→a\[3 a\[3]→a\[3|E [3]→[3]|I
-      a[3]b→a·[3]·b|I a␣b→a·b|E a[3][4]→a·[3]·[4]|I →
+      a[3]b→a·[3]·b|I a␣b→a·b|E a␁b→a|E a[3][4]→a·[3]·[4]|I →
       Spice → a.b.c→a·b·c|H ␣a␣.␣b␣→a·b|H 1.-2→1·-2|H a[3]→a[3] a\.b.c→a\.b·c|H a..b→a|EH .a→|E a.→a|EH a␣b→a·b|E [a→|E
       ]a→|E a.[3]→a|EH a:b→|E a:.b→a:·b|H ab\:c→ab\:c aé→a|E
       Sdf.<> Spf.<> Spef.<> Lef.<> Def.<> a.b<3>→a·b·[3]|HI ..a→a|/ a\.b<1:0>.c→a\.b·[1:0]·c|HRM Spf.<> a/b[3]→a/b[3]

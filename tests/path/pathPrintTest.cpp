@@ -166,7 +166,8 @@ TEST(PathExplode, EndlessEnumerationsAreGivenUp) {
   for (const std::string &endless : split("a<0:5:0> a<5:5:0> a<0:5:0*1> a<1,0:5:0> (b,a<0:5:0>) a<0*1897151>"))
     for (const char *const target : targets)
       EXPECT_EQ(mapped("ORKA", endless, target, explode), "EINVAL") << endless << " in " << target;
-  EXPECT_DEATH(mapped("ORKA", "a<(0,1)>", "ORKA", ZEL_PRINT_NOREPEAT), "setupExplode: Illegal position in zelPath\n");
+  for (const char *const listed : {"a<(0,1)>", "<*2>a<(0,1)>"})
+    EXPECT_DEATH(mapped("ORKA", listed, "ORKA", ZEL_PRINT_NOREPEAT), "setupExplode: Illegal position in zelPath\n");
 }
 
 } // namespace
