@@ -57,7 +57,7 @@ TEST_P(PathAllocation, Parsing) {
     for (int shift = 0; shift < 18; ++shift) {
       const std::string text = repeated(byName, shift % 6) + repeated(byRange, shift / 6) + sample;
       const std::string whole = itemsOf(parse(source, text.c_str()).get());
-      failEach([&, source = source] { return parserOf(source)(text.c_str(), nullptr, alloc, context); },
+      failEach([&, source = source] { return spaceAt(source).parse(text.c_str(), nullptr, alloc, context); },
                [&](zelPath path) {
                  EXPECT_TRUE(path != nullptr || failures != 0);
                  EXPECT_EQ(path != nullptr && itemsOf(path) == whole, failures == 0) << text;

@@ -38,25 +38,25 @@ TEST(PathModel, ItemsAreStoredAsKindAndNumbers) {
   }
 }
 
-// Item, index, range, step range (preset to 41), repeat, Ident, library reference (preset to l.c.v).
+// "item→index range step repeat Ident library", the step preset to 41 and the names to l.c.v.
 TEST(PathModel, GettersReadOnlyTheirKind) {
   const Path path = built("Sa [3] [7:1] [0:600:2] <*5> @Sl.Sc");
   zelPathGenStart(path.get());
-  for (const std::string &row :
-       split("1·-1·-1:-1·40:40:41·-1·Sa·l.c.v 2·3·-1:-1·40:40:41·-1·-·l.c.v 3·-1·7:1·40:40:41·-1·-·l.c.v "
-             "4·-1·0:600·0:600:2·-1·-·l.c.v 5·-1·-1:-1·40:40:41·5·-·l.c.v 12·-1·-1:-1·40:40:41·-1·-·Sl.Sc.- "
-             "13·-1·-1:-1·40:40:41·-1·-·l.c.v 13·-1·-1:-1·40:40:41·-1·-·l.c.v")) {
-    int from = 0, to = 0, stepFrom = 0, stepTo = 0, step = 41;
+  for (const Row &row :
+       rowsOf("1→-1·-1:-1·40:40:41·-1·Sa·l.c.v 2→3·-1:-1·40:40:41·-1·-·l.c.v 3→-1·7:1·40:40:41·-1·-·l.c.v "
+              "4→-1·0:600·0:600:2·-1·-·l.c.v 5→-1·-1:-1·40:40:41·5·-·l.c.v "
+              "12→-1·-1:-1·40:40:41·-1·-·Sl.Sc.- 13→-1·-1:-1·40:40:41·-1·-·l.c.v")) {
+    int n[] = {0, 0, 0, 0, 41};
     const char *library = "l", *cell = "c", *view = "v", *end = "end";
     std::ostringstream read;
-    read << zelPathGenNext(path.get()) << ' ' << zelPathGetIndex(path.get()) << ' ';
-    zelPathGetRange(path.get(), &from, &to);
-    zelPathGetStepRange(path.get(), &stepFrom, &stepTo, &step);
+    EXPECT_EQ(std::to_string(zelPathGenNext(path.get())), row.input);
+    zelPathGetRange(path.get(), &n[0], &n[1]);
+    zelPathGetStepRange(path.get(), &n[2], &n[3], &n[4]);
     zelPathGetLib(path.get(), &library, &cell, &view);
-    read << from << ':' << to << ' ' << stepFrom << ':' << stepTo << ':' << step << ' ' << zelPathGetRepeat(path.get())
-         << ' ' << resultOf(zelPathGetIdent(path.get())).value_or("-") << ' ' << library << '.' << cell << '.'
-         << resultOf(view).value_or("-");
-    EXPECT_EQ(read.str(), row);
+    read << zelPathGetIndex(path.get()) << ' ' << n[0] << ':' << n[1] << ' ' << n[2] << ':' << n[3] << ':' << n[4]
+         << ' ' << zelPathGetRepeat(path.get()) << ' ' << resultOf(zelPathGetIdent(path.get())).value_or("-") << ' '
+         << library << '.' << cell << '.' << resultOf(view).value_or("-");
+    EXPECT_EQ(read.str(), row.result);
     EXPECT_EQ(zelPathGetString(path.get(), &end), nullptr);
     EXPECT_EQ(end, nullptr);
   }
@@ -90,8 +90,7 @@ TEST(PathModel, NamesAreConvertedOnce) {
   EXPECT_EQ(zelStrToIdent(illegal.get(), 0), nullptr);
   EXPECT_EQ(itemsOf(illegal.get()), "- c");
   EXPECT_EQ(zelStrToIdent(illegal.get(), 99), nullptr);
-  const Handle dots = handleOf("Def", '.', '<', '>'); // the path's own
-  EXPECT_STREQ(zelStrToIdent(parse("Def", R"(a\<[.b)", dots.get()).get(), 0), "Ia<[");
+  EXPECT_STREQ(zelStrToIdent(parse("Def.<>", R"(a\<[.b)").get(), 0), "Ia<["); // with the separators of the path
 }
 
 TEST(PathModel, FlagsAreReportedRearranged) {
@@ -154,9 +153,7 @@ TEST(PathModel, RemovalOfIndexesAndLevels) {
 }
 
 TEST(PathModel, RemovalFromALocation) {
-  const std::pair<std::size_t, std::uint32_t> rows[] = {{0, 256}, {1, 257},     {5, 256 + 5},
-                                                        {6, 512}, {8, 512 + 2}, {9, 512 + 9}};
-  for (const auto &[left, location] : rows) {
+  for (const auto &[left, location] : {std::pair(0U, 256U), {1, 257}, {5, 261}, {6, 512}, {8, 514}, {9, 521}}) {
     Memory memory;
     const zelPath path = zelCreatePath(Memory::alloc, &memory);
     for (int i = 0; i < 9; ++i) // six in the head
@@ -166,8 +163,7 @@ TEST(PathModel, RemovalFromALocation) {
     zelPathAddIdent(path, memory.string("Sb"), 0);
     EXPECT_EQ(itemsOf(path), repeated("Sa ", left) + "Sb");
     zelFreePathFromLocation(path, 18, Memory::free, &memory); // behind the head's items: only what follows goes
-    EXPECT_EQ(path->used, std::min<std::size_t>(left, 6)) << location; // its slots stay taken
-    EXPECT_EQ(path->next, nullptr);
+    EXPECT_EQ(path->used, std::min(left, 6U)) << location;    // its slots stay taken
     zelFreePath(path, Memory::free, &memory);
     EXPECT_TRUE(memory.live.empty());
   }
@@ -181,6 +177,7 @@ TEST(PathModel, ReleasesWhatItOwnsOnce) {
   zelPathAddIdent(path, nullptr, 0);
   zelPathAddTopIdent(path, borrowed, 1);
   zelPathAddLib(path, borrowed, borrowed, borrowed, 1);
+  const std::uint32_t behindMark = zelPathGetLastLocation(path);
   zelPathAddLib(path, memory.string("Sl"), memory.string("Sc"), memory.string("Sv"), 0); // not shared, unlike the last
   zelPathAddLib(path, nullptr, memory.string("Sc"), nullptr, 0);
   zelPathAddStepRange(path, 0, 27, 35); // numbers are no items
@@ -188,17 +185,13 @@ TEST(PathModel, ReleasesWhatItOwnsOnce) {
   const std::size_t all = memory.live.size();
   zelFreePathFromLocation(path->next, path->next->used, Memory::free, &memory); // nothing is left to release there
   EXPECT_EQ(memory.live.size(), all);
-  zelPathSetLocation(path, 0);
-  while (zelPathGenNext(path) != ZEL_ITEM_LIB) {
-  }
-  zelPathRemoveFromLocation(path, zelPathGetLocation(path), Memory::free, &memory); // behind the mark of shared names
+  zelPathRemoveFromLocation(path, behindMark, Memory::free, &memory);
   zelFreePath(path, Memory::free, &memory);
   EXPECT_EQ(memory.live, std::set<void *>{borrowed});
   Memory::free(borrowed, &memory);
-  for (const char *const text : {"@l.c(v):a", "a@l.c,b", "@l.c(v", "@l.c,@d"}) {
+  for (const char *const text : {"@l.c(v):a", "a@l.c,b", "@l.c(v", "@l.c,@d"})
     zelFreePath(zelParseVHDL(text, nullptr, Memory::alloc, &memory), Memory::free, &memory);
-    EXPECT_TRUE(memory.live.empty()) << text;
-  }
+  EXPECT_TRUE(memory.live.empty());
 }
 
 TEST(PathModel, NullArguments) {

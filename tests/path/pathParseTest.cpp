@@ -4,16 +4,12 @@
 
 namespace {
 
-// Separators in force stand behind the language: "Sdf.<>" for a divider and bus brackets.
 void expectParsed(const char *table) {
   for (const Case &row : casesOf(table))
-    for (const std::string &head : row.heads) {
-      const std::string space = head.substr(0, std::min(head.find_first_of(".:1x"), head.size()));
-      const std::string c = head.substr(space.size()) + std::string(3, '\0');
-      const Handle handle = head == space ? nullptr : handleOf(space, c[0], c[1], c[2]);
-      const Path path = parse(space, row.text.c_str(), handle.get());
+    for (const std::string &source : row.heads) {
+      const Path path = parse(source, row.text.c_str());
       const std::string items = itemsOf(path.get()), flags = flagsOf(path.get());
-      EXPECT_EQ(items + (flags.empty() ? "" : "|") + flags, row.result) << head << " '" << row.text << "'";
+      EXPECT_EQ(items + (flags.empty() ? "" : "|") + flags, row.result) << source << " '" << row.text << "'";
     }
 }
 

@@ -77,7 +77,8 @@ TEST(PathPrint, Names) {
   expectPrinted(R"(
       Tessel> Tessel FlatTessel |top|a[3]→|top|a[3] a|b→a|b Tessel +explode ||a[1:0]→|a[1],|a[0]
               Sdf Spf Spef Lef Def |top|a[3]→/top/a[3] Verilog Kirra KirraHDL Spice |top|a[3]→top.a[3]
-      Sdf> Gcf /a→.a /[3]→<3> ORKA VHDL /a→a Sdf /→ Verilog a.b→ a.b/c→.c
+              Lef.<> Def.<> Sdf.<> Spf.<> Spef.<> Gcf.<> +explode |a|b<[1:0]→.a.b\<<1>,.a.b\<<0>
+      Sdfx> Lef axb\/c→a/b\/c Sdf> Gcf /a→.a /[3]→<3> ORKA VHDL /a→a Sdf /→ Verilog a.b→ a.b/c→.c
       VHDL> ORKA Sdf Verilog @l.c(v):a→a @c→ Verilog :Top:\a␣b\(3)→top.\a#20b␣[3]
             VHDL @l.c(v)→@l.c(v) @l.c→@l.c @c→@c a@l.c(v)→a@l.c(v) @l.c:a→@l.c:a a&&@c→a&&@c
       Verilog> VHDL \a+b␣.A.c→:\a+b\:\A\:c Spice> Verilog a_3.b→a_3.b a[3]→\a[3]␣ Tessel a[3]→a\[3\]
@@ -88,18 +89,6 @@ TEST(PathPrint, Names) {
   zelPathAddLib(path.get(), nullptr, nullptr, nullptr, 1);
   zelPathAddLib(path.get(), "Sl", nullptr, "Sv", 1);
   EXPECT_EQ(printed(path, "VHDL"), ":a@@l.(v)");
-}
-
-TEST(PathPrint, Handles) {
-  for (const char *const target : {"Lef", "Def", "Sdf", "Spf", "Spef", "Gcf"}) {
-    const Handle handle = handleOf(target, '.', '<', '>');
-    EXPECT_EQ(printed(parse("Tessel", "|a|b<[1:0]"), target, explode, handle.get()), R"(.a.b\<<1>,.a.b\<<0>)")
-        << target;
-  }
-  // A path read with one handle is printed with another, or in a language that has none.
-  const Handle letters = handleOf("Sdf", 'x', 0, 0);
-  EXPECT_EQ(printed(parse("Sdf", R"(axb\/c)", letters.get()), "Lef"), R"(a/b\/c)");
-  EXPECT_EQ(printed(parse("Tessel", "a|b[3]"), "Tessel", 0, letters.get()), "a|b[3]");
 }
 
 TEST(PathPrint, NothingAndTooMuch) {

@@ -100,9 +100,9 @@ TEST(PathMapper, TakesNamesOrHandlesUnderEveryConvention) {
       EXPECT_EQ(convert(map, "a1"), expected);
       EXPECT_EQ(take(zelPathMapper("a1", nullptr, nullptr, 0, source.c_str(), target.c_str())), expected);
     }
-  const Handle dots = handleOf("Sdf", '.', '<', '>');
-  EXPECT_EQ(take(zelPathMapper("a.b<1:0>", dots.get(), nullptr, 1, nullptr, "Sdf")), "a/b[1],a/b[0]");
-  EXPECT_EQ(take(zelPathMapper("a/b[1:0]", nullptr, dots.get(), 9, "Sdf", "x")), "a.b<1>,a.b<0>");
+  const zelHandle dots = spaceAt("Sdf.<>").handle;
+  EXPECT_EQ(take(zelPathMapper("a.b<1:0>", dots, nullptr, 1, nullptr, "Sdf")), "a/b[1],a/b[0]");
+  EXPECT_EQ(take(zelPathMapper("a/b[1:0]", nullptr, dots, 9, "Sdf", "x")), "a.b<1>,a.b<0>");
   for (const auto &[text, from, to] : {std::array{"a.", "Verilog", "VHDL"},
                                        {nullptr, "Verilog", "VHDL"},
                                        {"a", "VHDL", nullptr},

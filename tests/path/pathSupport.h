@@ -1,5 +1,5 @@
 // What the path tests share: a path as one readable string, in both directions, tables of such strings, and owners of
-// paths, handles and counted memory. Spaces go by their names; what parses and prints is that of their handles.
+// paths, handles and counted memory. Spaces go by their names.
 #ifndef PATH_SUPPORT_H
 #define PATH_SUPPORT_H
 
@@ -8,6 +8,7 @@
 #include "path/language.h"
 #include "support/rules.h"
 
+#include <map>
 #include <set>
 
 constexpr const char *sources[] = {
@@ -24,15 +25,21 @@ struct Release {
 using Path = std::unique_ptr<zelPathRecord, Release>;
 using Handle = std::unique_ptr<const zelHandleRecord, Release>;
 
-inline Handle handleOf(const std::string &space, char divider, char busOpen, char busClose) {
-  const auto code = [](char c) { return static_cast<unsigned char>(c); };
-  return Handle(zelGetHandle(space.c_str(), 0, code(divider), code(busOpen), code(busClose)));
-}
-inline zeli::PathParser parserOf(const std::string &space) {
-  return zelGetHandle(space.c_str(), 0, 0, 0, 0)->varBits->parse;
-}
-inline zeli::PathPrinter printerOf(const std::string &space) {
-  return zelGetHandle(space.c_str(), 0, 0, 0, 0)->varBits->print;
+// "Sdf", or "Sdf.<>" with a divider and bus brackets of one's own: what parses and prints there, and the handle (null
+// for the separators that the space has).
+struct PathSpace {
+  zeli::PathParser parse;
+  zeli::PathPrinter print;
+  zelHandle handle;
+};
+inline PathSpace spaceAt(const std::string &head) {
+  static std::map<std::string, Handle> made;
+  const std::size_t end = std::min(head.find_first_of(".:1x"), head.size());
+  const std::string name = head.substr(0, end), separators = head.substr(end) + std::string(3, '\0');
+  const zeli::VarBits &space = *zelGetHandle(name.c_str(), 0, 0, 0, 0)->varBits;
+  if (end != head.size() && made[head] == nullptr)
+    made[head].reset(zelGetHandle(name.c_str(), 0, separators[0], separators[1], separators[2]));
+  return {space.parse, space.print, made[head].get()};
 }
 
 inline std::string repeated(const std::string &text, std::size_t count) {
@@ -154,18 +161,19 @@ inline std::vector<Case> casesOf(const std::string &table) {
 }
 
 // text must outlive the path.
-inline Path parse(const std::string &source, const char *text, zelHandle handle = nullptr) {
-  return Path(parserOf(source)(text, handle, nullptr, nullptr));
+inline Path parse(const std::string &source, const char *text) {
+  const PathSpace space = spaceAt(source);
+  return Path(space.parse(text, space.handle, nullptr, nullptr));
 }
 
 // The printed path, "EINVAL" for null. Printing converts its names where they stand, so a second run must give the
 // same.
-inline std::string printed(const Path &path, const std::string &target, int flags = 0, zelHandle handle = nullptr) {
+inline std::string printed(const Path &path, const std::string &target, int flags = 0) {
+  const PathSpace space = spaceAt(target);
+  const auto print = [&] { return take(space.print(path.get(), space.handle, flags, nullptr, nullptr)); };
   errno = 0;
-  const std::string text = take(printerOf(target)(path.get(), handle, flags, nullptr, nullptr))
-                               .value_or(errno == EINVAL ? "EINVAL" : "null");
-  EXPECT_EQ(take(printerOf(target)(path.get(), handle, flags, nullptr, nullptr)).value_or("EINVAL"), text)
-      << target << ", again";
+  const std::string text = print().value_or(errno == EINVAL ? "EINVAL" : "null");
+  EXPECT_EQ(print().value_or("EINVAL"), text) << target << ", again";
   return text;
 }
 inline std::string mapped(const std::string &source, const std::string &text, const std::string &target,

@@ -10,7 +10,7 @@ constexpr int rounds = 40;
 
 // Everything that one caller with separators of its own maps, through its own ring.
 std::vector<std::string> mapAll(int caller) {
-  const char separator = "./|:_-#x"[caller];
+  const auto separator = static_cast<unsigned char>("./|:_-#x"[caller]);
   const std::vector<std::string> names = split(R"(clk Data_Out \a+b␣ \a␣b\ u1/u2 a#20b x[3] signal 2n3904 %Lib)");
   std::vector<std::string> results;
   zelRing ring = nullptr;
@@ -22,7 +22,7 @@ std::vector<std::string> mapAll(int caller) {
       {"Sdf", zelIdentToSdfWithHandle}, {"Spf", zelIdentToSpfWithHandle}, {"Spef", zelIdentToSpefWithHandle},
       {"Gcf", zelIdentToGcfWithHandle}, {"Lef", zelIdentToLefWithHandle}, {"Def", zelIdentToDefWithHandle}};
   for (const auto &[space, write] : redefinable) {
-    const Handle handle = handleOf(space, separator, '(', ')');
+    const Handle handle(zelGetHandle(space, 0, separator, '(', ')'));
     for (const std::string &ident : split("Stop IReg Sa/b Sa.b[3] Ix:y S#2341 Sa%20b F_\\ Sa|b<1> Sq{}"))
       keep(write(ident.c_str(), zelAllocRing, &ring, handle.get()));
     for (const std::string &path : split(R"(top.u1.d[3:0] {2{a,b}} a[1:0].b[5:4] \u/1␣.x m.n[7])"))
