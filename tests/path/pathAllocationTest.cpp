@@ -80,11 +80,12 @@ TEST_P(PathAllocation, Converting) {
 
 TEST_P(PathAllocation, PrintingAndMapping) {
   for (const auto &sample : samples)
-    for (const char *const target : targets)
+    for (const std::string &target : targets)
       for (const std::uint32_t flags : {0U, 1U, 3U}) {
         const std::string whole = mapped(sample.source, sample.text, target, static_cast<int>(flags));
         const auto parseAndPrint = [&] {
-          return zelPathMapperEx(sample.text.c_str(), nullptr, nullptr, flags, sample.source, target, alloc, context);
+          return zelPathMapperEx(sample.text.c_str(), nullptr, nullptr, flags, sample.source, target.c_str(), alloc,
+                                 context);
         };
         failEach(parseAndPrint, [&](char *result) {
           EXPECT_EQ(resultOf(result), failures != 0 ? Result() : whole) << sample.text << " in " << target;

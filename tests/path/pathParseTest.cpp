@@ -99,7 +99,7 @@ TEST(PathParse, BusFormats) {
 
 TEST(PathParse, NamesUpToTheLimit) {
   const std::string longest(ZEL_MAX_NAME, 'a');
-  for (std::size_t i = 0; i < std::size(sources); ++i) {
+  for (std::size_t i = 0; i < sources.size(); ++i) {
     SCOPED_TRACE(sources[i]);
     EXPECT_EQ(parse(sources[i], "a")->flags >> zeli::languageShift, i + 1);
     EXPECT_EQ(parse(sources[i], nullptr), nullptr);

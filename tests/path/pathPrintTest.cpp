@@ -97,9 +97,9 @@ TEST(PathPrint, NothingAndTooMuch) {
   const std::string longest = std::string(1023, 'a') + '.' + std::string(1023, 'b');
   const std::string huge = 'S' + std::string(ZEL_MAX_NAME, 'a');
   const std::string many = repeated(huge + " [3] ", 4);
-  for (const char *const target : targets)
+  for (const std::string &target : targets)
     for (int flags = 0; flags < everyFlag; ++flags) {
-      SCOPED_TRACE(target + (' ' + std::to_string(flags)));
+      SCOPED_TRACE(target + ' ' + std::to_string(flags));
       EXPECT_EQ(printed(nullptr, target, flags) + printed(built(""), target, flags) + printed(cut, target, flags), "");
       EXPECT_EQ(mapped("Verilog", 'a' + longest, target, flags), "EINVAL");
       EXPECT_EQ(printed(built(many), target, flags), "EINVAL");
@@ -153,7 +153,7 @@ TEST(PathExplode, GroupRepeats) {
 
 TEST(PathExplode, EndlessEnumerationsAreGivenUp) {
   for (const std::string &endless : split("a<0:5:0> a<5:5:0> a<0:5:0*1> a<1,0:5:0> (b,a<0:5:0>) a<0*1897151>"))
-    for (const char *const target : targets)
+    for (const std::string &target : targets)
       EXPECT_EQ(mapped("ORKA", endless, target, explode), "EINVAL") << endless << " in " << target;
   for (const char *const listed : {"a<(0,1)>", "<*2>a<(0,1)>"})
     EXPECT_DEATH(mapped("ORKA", listed, "ORKA", ZEL_PRINT_NOREPEAT), "setupExplode: Illegal position in zelPath\n");

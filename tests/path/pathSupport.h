@@ -11,11 +11,10 @@
 #include <map>
 #include <set>
 
-constexpr const char *sources[] = {
-    "Verilog", "ORKA", "VHDL", "VerilogAMS", "VHDLAMS", "Tessel", "Kirra",  "KirraHDL",  "Lef",
-    "Def",     "Sdf",  "Spf",  "Spef",       "Gcf",     "Spice",  "VHDL87", "FlatTessel"}; // by language code, from 1
-constexpr const char *targets[] = {"Verilog", "Kirra", "KirraHDL", "VHDL", "ORKA", "Tessel", "FlatTessel",
-                                   "Lef",     "Def",   "Sdf",      "Spf",  "Spef", "Gcf",    "Spice"};
+inline const std::vector<std::string> sources = split(
+    "Verilog ORKA VHDL VerilogAMS VHDLAMS Tessel Kirra KirraHDL Lef Def Sdf Spf Spef Gcf Spice VHDL87 FlatTessel");
+inline const std::vector<std::string> targets =
+    split("Verilog Kirra KirraHDL VHDL ORKA Tessel FlatTessel Lef Def Sdf Spf Spef Gcf Spice");
 constexpr int everyFlag = 32; // flag words below it
 
 struct Release {
@@ -102,12 +101,20 @@ inline std::string itemsOf(zelPath path) {
 }
 
 // The flag word: E error, H hierarchy, I index, R range, C complex, m mid index, M mid range, * repeat, L list,
-// X complex index, / leading divider.
+// X complex index, / leading divider. All but the last two are reported, and what the path is single for.
 inline std::string flagsOf(zelPath path) {
+  static constexpr int reported[12] = {ZEL_PATH_ERROR,     ZEL_PATH_HIERARCHY, ZEL_PATH_INDEX,
+                                       ZEL_PATH_RANGE,     ZEL_PATH_COMPLEX,   ZEL_PATH_MID_INDEX,
+                                       ZEL_PATH_MID_RANGE, ZEL_PATH_REPEAT,    ZEL_PATH_LIST};
+  int expected = (path->flags & 0x390) == 0 ? ZEL_PATH_SINGLE_VERILOG | ZEL_PATH_SINGLE_VHDL : 0;
+  expected |= (path->flags & 0x180) == 0 ? ZEL_PATH_SINGLE_ORKA : 0;
   std::string text;
   for (int bit = 0; bit < 12; ++bit)
-    if (bit != 10 && (path->flags >> bit & 1) != 0)
+    if (bit != 10 && (path->flags >> bit & 1) != 0) {
       text += "EHIRCmM*LX?/"[bit];
+      expected |= reported[bit];
+    }
+  EXPECT_EQ(zelPathGetFlag(path), expected) << text;
   return text;
 }
 

@@ -30,8 +30,8 @@ std::vector<std::string> mapAll(int caller) {
         keep(zelPathMapperEx(path.c_str(), zelVerilogHandle, handle.get(), flags, nullptr, nullptr, zelAllocRing,
                              &ring));
   }
-  for (const char *target : targets)
-    keep(zelPathMapperEx("top.a[1:0].\\b+c .d", nullptr, nullptr, 1, "Verilog", target, zelAllocRing, &ring));
+  for (const std::string &target : targets)
+    keep(zelPathMapperEx("top.a[1:0].\\b+c .d", nullptr, nullptr, 1, "Verilog", target.c_str(), zelAllocRing, &ring));
   zelFreeRing(&ring);
   return results;
 }
