@@ -17,9 +17,7 @@ foreach(folder IN ITEMS core spaces path tool)
   target_include_directories(${program} PRIVATE lib tests)
   target_link_libraries(${program} PRIVATE zel_static GTest::gtest_main)
   if(folder STREQUAL "tool")
-    target_sources(${program} PRIVATE $<TARGET_OBJECTS:zelpath_objects>)
-    target_include_directories(${program} PRIVATE tool)
-    target_compile_definitions(${program} PRIVATE ZELPATH_PROGRAM="$<TARGET_FILE:zelpath>")
+    target_compile_definitions(${program} PRIVATE ZELPATH_FOLDER="$<TARGET_FILE_DIR:zelpath>")
     add_dependencies(${program} zelpath)
   endif()
   gtest_discover_tests(${program} TEST_PREFIX ${folder}. DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60)
@@ -45,67 +43,41 @@ set(ident_check ${PROJECT_SOURCE_DIR}/tests/exports/ident.sh ${CMAKE_STRIP})
 add_test(NAME exports.ident.shared COMMAND ${ident_check} $<TARGET_FILE:zel_shared> "ZEL version")
 add_test(NAME exports.ident.tool COMMAND ${ident_check} $<TARGET_FILE:zelpath> version "ZEL version")
 
-# --- The public header alone, by every compiler present ------------------------------------------------------------
+# --- The public header alone, included twice, by every compiler present --------------------------------------------
 
-set(header_check ${PROJECT_SOURCE_DIR}/tests/header/check.sh)
-foreach(compiler IN ITEMS gcc clang)
+set(warnings -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wundef -Werror)
+set(header ${PROJECT_SOURCE_DIR}/lib/core/zel.h)
+foreach(case IN ITEMS gcc:c:c99 gcc:c:c11 clang:c:c99 clang:c:c11 g++:c++:c++17 g++:c++:c++20 clang++:c++:c++17
+                      clang++:c++:c++20)
+  string(REPLACE ":" ";" case ${case})
+  list(POP_FRONT case compiler language standard)
   find_program(ZEL_${compiler} ${compiler})
   if(ZEL_${compiler})
-    add_test(NAME header.${compiler} COMMAND ${header_check} ${ZEL_${compiler}}
-                                             ${PROJECT_SOURCE_DIR}/tests/header/header.c
-                                             ${PROJECT_SOURCE_DIR}/lib/core c99 c11)
-  endif()
-endforeach()
-foreach(compiler IN ITEMS g++ clang++)
-  find_program(ZEL_${compiler} ${compiler})
-  if(ZEL_${compiler})
-    add_test(NAME header.${compiler} COMMAND ${header_check} ${ZEL_${compiler}}
-                                             ${PROJECT_SOURCE_DIR}/tests/header/header.cpp
-                                             ${PROJECT_SOURCE_DIR}/lib/core c++17 c++20)
+    add_test(NAME header.${compiler}.${standard} COMMAND ${ZEL_${compiler}} -std=${standard} ${warnings} -fsyntax-only
+                                                         -include ${header} -x ${language} ${header})
   endif()
 endforeach()
 
-# --- The examples --------------------------------------------------------------------------------------------------
+# --- Programs that are built, and an installed copy, built by itself: instrumentation is not what is installed ------
 
 add_executable(zel_example_rename examples/rename.c)
 target_link_libraries(zel_example_rename PRIVATE zel_shared)
 add_executable(zel_example_bits examples/bits.cpp)
 target_link_libraries(zel_example_bits PRIVATE zel_static)
-foreach(example IN ITEMS rename bits)
-  set_target_properties(zel_example_${example} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${zel_test_dir})
-  add_test(NAME examples.${example} COMMAND ${PROJECT_SOURCE_DIR}/tests/install/${example}.sh
-                                            $<TARGET_FILE:zel_example_${example}>)
-endforeach()
+set(examples_arguments $<TARGET_FILE:zel_example_rename> $<TARGET_FILE:zel_example_bits>)
 
-# --- An installed copy, built by itself: instrumentation is not what is installed -----------------------------------
-
-set(install_checks ${PROJECT_SOURCE_DIR}/tests/install)
 set(work ${zel_test_dir}/install)
-set(prefix ${work}/copy/prefix)
-set(compilers ${CMAKE_C_COMPILER} ${CMAKE_CXX_COMPILER})
-
-add_test(NAME install.copy COMMAND ${install_checks}/install.sh ${PROJECT_SOURCE_DIR} ${work}/copy ${CMAKE_GENERATOR}
-                                   ${compilers})
-add_test(NAME install.subproject COMMAND ${install_checks}/cmake.sh ${PROJECT_SOURCE_DIR} ${work}/subproject
-                                         ${CMAKE_GENERATOR} ${compilers} subproject)
-add_test(NAME install.package COMMAND ${install_checks}/cmake.sh ${PROJECT_SOURCE_DIR} ${work}/package
-                                      ${CMAKE_GENERATOR} ${compilers} package ${prefix})
-add_test(NAME install.pkgconfig COMMAND ${install_checks}/pkgconfig.sh ${PROJECT_SOURCE_DIR} ${work}/pkgconfig
-                                        ${compilers} ${prefix})
-add_test(NAME install.completion COMMAND ${install_checks}/completion.sh ${PROJECT_SOURCE_DIR} ${prefix}
-                                         ${work}/package/build/c_zel)
-add_test(NAME install.readme COMMAND ${install_checks}/readme.sh ${PROJECT_SOURCE_DIR} ${work}/readme
-                                     ${CMAKE_GENERATOR} ${CMAKE_C_COMPILER} ${prefix})
+foreach(check IN ITEMS examples copy subproject package pkgconfig completion readme)
+  add_test(NAME install.${check}
+           COMMAND ${PROJECT_SOURCE_DIR}/tests/install/check.sh ${check} ${PROJECT_SOURCE_DIR} ${work}
+                   ${CMAKE_GENERATOR} ${CMAKE_C_COMPILER} ${CMAKE_CXX_COMPILER} ${${check}_arguments})
+  # Flags of the environment are meant for the build around these.
+  set_tests_properties(install.${check} PROPERTIES TIMEOUT 300 ENVIRONMENT_MODIFICATION
+                                                   "CFLAGS=unset:;CXXFLAGS=unset:;LDFLAGS=unset:")
+endforeach()
 add_test(NAME install.symbols
-         COMMAND ${PROJECT_SOURCE_DIR}/tests/exports/check.sh ${CMAKE_NM} ${prefix}/lib/libzel.so
+         COMMAND ${PROJECT_SOURCE_DIR}/tests/exports/check.sh ${CMAKE_NM} ${work}/copy/prefix/lib/libzel.so
                  ${PROJECT_SOURCE_DIR}/lib/zel.exports ${PROJECT_SOURCE_DIR}/tests/exports/needs.txt)
-
 set_tests_properties(install.copy PROPERTIES FIXTURES_SETUP zel_copy)
-set_tests_properties(install.package PROPERTIES FIXTURES_SETUP zel_consumers)
 set_tests_properties(install.package install.pkgconfig install.completion install.readme install.symbols
                      PROPERTIES FIXTURES_REQUIRED zel_copy)
-set_tests_properties(install.completion PROPERTIES FIXTURES_REQUIRED "zel_copy;zel_consumers")
-# Flags of the environment are meant for the build around these.
-set_tests_properties(
-  install.copy install.subproject install.package install.pkgconfig install.completion install.readme
-  PROPERTIES TIMEOUT 300 ENVIRONMENT_MODIFICATION "CFLAGS=unset:;CXXFLAGS=unset:;LDFLAGS=unset:")

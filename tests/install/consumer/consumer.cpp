@@ -1,20 +1,16 @@
-// As consumer.c, with a standard type around what the library allocates.
+// As consumer.c, with standard types around what the library gives.
 #include <cstdio>
-#include <cstdlib>
 #include <string_view>
-#include <type_traits>
 #include <zel.h>
 
 static_assert(noexcept(zelMapName(nullptr, nullptr, nullptr, nullptr, nullptr)));
-static_assert(std::is_same_v<decltype(zelVerilogSpace), const zelSpace>);
 
 int main() {
   zelRing ring = nullptr;
-  const char *const name = zelMapName("Verilog", "Spef", "\\u1/Pad ", zelAllocRing, &ring);
-  const char *const path = zelPathMapperEx("top.u1.d[3]", nullptr, nullptr, 0, "Verilog", "VHDL", zelAllocRing, &ring);
-  if (name == nullptr || path == nullptr || std::string_view(zelVerilogSpace->name) != "Verilog")
-    return 1;
-  std::printf("%s and %s\n", name, path);
+  const std::string_view name = zelMapName("Verilog", "Spef", "\\u1/Pad ", zelAllocRing, &ring);
+  const std::string_view path =
+      zelPathMapperEx("top.u1.d[3]", nullptr, nullptr, 0, "Verilog", "VHDL", zelAllocRing, &ring);
+  std::printf("%s and %s\n", name.data(), path.data());
   zelFreeRing(&ring);
-  return 0;
+  return std::string_view(zelVerilogSpace->name) == "Verilog" ? 0 : 1;
 }
