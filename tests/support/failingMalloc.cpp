@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
 namespace failingMalloc {
 thread_local int left = -1;
 thread_local int failures = 0;
@@ -15,24 +16,20 @@ bool isInPlace() {
   std::free(block);
   return block == nullptr;
 }
-} // namespace failingMalloc
 
-#if defined(__has_feature)
-#define HAS_FEATURE(feature) __has_feature(feature)
-#else
-#define HAS_FEATURE(feature) 0
-#endif
-#if !defined(__SANITIZE_THREAD__) && !HAS_FEATURE(thread_sanitizer)
-namespace {
-bool fails() {
-  using namespace failingMalloc;
+inline bool fails() {
   const bool isTheOne = left >= 0 && left-- == 0;
   failures += isTheOne ? 1 : 0;
   return isTheOne;
 }
-} // namespace
+} // namespace failingMalloc
 
-// NOLINTBEGIN(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
+#ifndef __has_feature
+#define __has_feature(feature) 0
+#endif
+#if !defined(__SANITIZE_THREAD__) && !__has_feature(thread_sanitizer)
+using failingMalloc::fails;
+
 extern "C" {
 void *__interceptor_malloc(std::size_t size) __attribute__((weak));
 void *__interceptor_calloc(std::size_t count, std::size_t size) __attribute__((weak));
@@ -48,5 +45,5 @@ void *calloc(std::size_t count, std::size_t size) noexcept {
                                            : __libc_calloc(count, size);
 }
 }
-// NOLINTEND(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
 #endif
+// NOLINTEND(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)

@@ -7,7 +7,6 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
@@ -23,9 +22,8 @@ using Result = std::optional<std::string>;
 inline Result resultOf(const char *text) { return text == nullptr ? Result() : Result(text); }
 inline Result take(char *result) { return resultOf(Owned(result).get()); }
 
-// Gives exactly the bytes that it is asked for, so that a write past them is noticed; or none at all.
+// Gives exactly the bytes that it is asked for, so that a write past them is noticed; null when malloc fails.
 struct Allocator {
-  bool gives = true;
   int requests = 0;
   std::uint64_t size = 0;
   Owned memory = nullptr;
@@ -34,7 +32,7 @@ struct Allocator {
     auto &self = *static_cast<Allocator *>(context);
     ++self.requests;
     self.size = size;
-    self.memory.reset(self.gives ? static_cast<char *>(std::malloc(size)) : nullptr);
+    self.memory.reset(static_cast<char *>(std::malloc(size)));
     return self.memory.get();
   }
 };
@@ -44,38 +42,28 @@ struct Allocator {
 // 0 when it set none.
 template <typename Conversion> Result convert(Conversion conversion, const char *input) {
   errno = 0;
-  const Owned owned(conversion(input, nullptr, nullptr));
+  const Result result = take(conversion(input, nullptr, nullptr));
   const int error = errno;
-  char buffer[ZEL_MAX_NAME + 2];
-  buffer[0] = '?';
+  char buffer[ZEL_MAX_NAME + 2] = "?";
   Allocator allocator;
-  char *const inBuffer = conversion(input, nullptr, buffer);
-  const char *const allocated = conversion(input, Allocator::allocate, &allocator);
-  if (owned) {
-    EXPECT_EQ(inBuffer, buffer);
-    EXPECT_STREQ(inBuffer, owned.get());
-    EXPECT_STREQ(allocated, owned.get());
-    EXPECT_EQ(allocator.size, std::strlen(owned.get()) + 1);
-  } else {
-    EXPECT_EQ(inBuffer, nullptr);
-    EXPECT_EQ(buffer[0], '?');
-    EXPECT_EQ(allocated, nullptr);
-  }
-  EXPECT_EQ(allocator.requests, owned ? 1 : 0);
+  EXPECT_EQ(resultOf(conversion(input, nullptr, buffer)), result);
+  EXPECT_EQ(buffer, result.value_or("?"));
+  EXPECT_EQ(resultOf(conversion(input, Allocator::allocate, &allocator)), result);
+  EXPECT_EQ(allocator.requests, result ? 1 : 0);
+  EXPECT_EQ(allocator.size, result ? result->size() + 1 : 0);
   static const bool mallocFails = failingMalloc::isInPlace();
-  for (const bool ofMalloc : {true, false}) {
-    if (!owned || (ofMalloc && !mallocFails))
-      continue;
+  for (const bool isOwn : {true, false}) {
+    if (!result || !mallocFails)
+      break;
     errno = 0;
-    allocator.gives = false;
-    failingMalloc::left = ofMalloc ? 0 : -1;
-    EXPECT_EQ(ofMalloc ? conversion(input, nullptr, nullptr) : conversion(input, Allocator::allocate, &allocator),
+    failingMalloc::left = 0;
+    EXPECT_EQ(isOwn ? conversion(input, nullptr, nullptr) : conversion(input, Allocator::allocate, &allocator),
               nullptr);
     failingMalloc::left = -1;
     EXPECT_EQ(errno, ENOMEM);
   }
   errno = error;
-  return resultOf(owned.get());
+  return result;
 }
 
 #endif
