@@ -46,9 +46,10 @@ const struct {
   const char *source, *byName, *byRange;
   std::string text;
 } samples[] = {{"Verilog", "n,", "n[0:1],", "{2{a[1],b.c.d.e.f.g.h.i[300:299]},{j}}"},
-               {"VHDL", "n&&", "n(0 to 1)&&", "a(1)&&@l.c(v):a:b:c:d:e:f:g:h:i(300)&&@l.c:a&&@c&&b"},
-               {"ORKA", "n,", "n<0:1>,", "(/a<3>/b/c,d/e/f/g<(1,0:400:200)*1,3:4>,<*2>/i<0:6:2,6*124>,j)"},
-               {"Sdf", "n/", "n[0:1]/", "a/b/c/d/e/f/g/h/i[3:0][1][2]"},
+               {"VHDL", "n&&", "n(0 to 1)&&", "a(1)&&@l.c(v):a:b:c:d:e:f:g:h:i(300)&&@l.c:a&&@c&&b@l.c(v)"},
+               {"ORKA", "n,", "n<0:1>,", "a<3>/b/c,g<((((1,0:400:200))))*1,3:4>,<*2>(/i<0:6:2,6*124>,j<1,2>/k<3*1>)"},
+               {"ORKA", "n,", "n<0:1>,", "(/a,b<((300:301)4*130)(1:5:2)>,c)"},
+               {"Sdf", "n/", "n[0:1]/", "a/b/c/d[3:0][1][2][3][4][5:6][300:299][1]/e"},
                {"Spice", "n.", "o.", "a.b.c.d.e.f.g.h.i"},
                {"Gcf", "n.", "n<0:1>.", repeated("n.", 150) + "n"}};
 
@@ -67,7 +68,17 @@ TEST_P(PathAllocation, Parsing) {
     }
 }
 
-TEST_P(PathAllocation, Converting) {
+TEST_P(PathAllocation, BuildingAndConverting) {
+  const auto build = [&] {
+    const zelPath path = zelCreatePath(alloc, context);
+    for (int i = 0; i < 3; ++i)
+      zelPathAddLib(path, "Sl", "Sc", "Sv", 1);
+    return path;
+  };
+  failEach(build, [&](zelPath path) {
+    EXPECT_TRUE(path == nullptr || flagsOf(path) == (failures != 0 ? "EH" : "H"));
+    release(path);
+  });
   for (const bool onRequest : {true, false}) {
     const zelPath path = zelParseVerilog("a.b", nullptr, alloc, context);
     zelPathSetLocation(path, 256);

@@ -98,6 +98,8 @@ TEST(PathModel, NamesAreConvertedOnce) {
 TEST(PathModel, Locations) {
   const Path p = built("Sa [3] Sb"), l = built(repeated("Sa ", 10));
   EXPECT_EQ(zelPathGetLocation(p.get()), 256U + 200U); // nowhere yet
+  zelPathGenStart(p.get());
+  EXPECT_EQ(zelPathGetLocation(p.get()), 0U);
   for (const Row &row :
        rowsOf("p0→0·1·256 p256→1·2·257 p257→1·1·259 p259→1·13·456 p260→1·13·456 p265→4·13·456 "
               "p512→4·13·456 p4294967295→4·13·456 p3→0·13·456 l262→1·1·263 l263→1·1·512 l512→1·1·513")) {
@@ -131,13 +133,13 @@ TEST(PathModel, RemovalOfIndexesAndLevels) {
   }
   const Path path = built(repeated("Sa ", 9));
   EXPECT_EQ(zelPathRemoveLevel(path.get()), reinterpret_cast<intptr_t>(path->next));
-  EXPECT_EQ(bytesOf(path.get()), "27 28 29 30 31 32 33 34");
+  EXPECT_EQ(itemsOf(path.get()), repeated("Sa ", 7) + "Sa");
   zelPathAddIdent(path.get(), "Sb", 1); // into the chunk that was emptied
   EXPECT_EQ(bytesOf(path.get()), "27 28 29 30 31 32 33 34 | 27");
 }
 
 TEST(PathModel, RemovalFromALocation) {
-  for (const auto &[left, location] : {std::pair(0U, 256U), {1, 257}, {5, 261}, {6, 512}, {8, 514}, {9, 521}}) {
+  for (const auto &[left, location] : {std::pair(0U, 0U), {0, 256}, {1, 257}, {5, 261}, {6, 512}, {8, 514}, {9, 521}}) {
     Memory memory;
     const zelPath path = zelCreatePath(Memory::alloc, &memory);
     for (int i = 0; i < 9; ++i) // six in the head

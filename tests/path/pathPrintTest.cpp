@@ -84,11 +84,21 @@ TEST(PathPrint, Names) {
       Verilog> VHDL \a+b␣.A.c→:\a+b\:\A\:c Spice> Verilog a_3.b→a_3.b a[3]→\a[3]␣ Tessel a[3]→a\[3\]
       Kirra> Kirra a\.b.c→a\.b.c KirraHDL> KirraHDL \a+b␣.c→\a+b␣.c
       VHDL87> VHDL quantity:b→:quantity:b VHDLAMS> VHDL quantity:b→::b VerilogAMS> VHDL analog.b→::b
-      built> Verilog Sa·-·Sb→a..b ORKA Sa·S·Sb→a//b Sdf Xa·[3]·Sb→[3]/b VHDL -·Sb→b @Sl.Sc(Sv)·Sa→@l.c(v):a)");
+      built> Verilog Sa·-·Sb→a..b ORKA Sa·S·Sb→a//b Sdf Xa·[3]·Sb→[3]/b VHDL -·Sb→b @Sl.Sc(Sv)·Sa→@l.c(v):a
+             Verilog ORKA @Sl.Sc·Sa→a)");
   const Path path = built("Sa");
   zelPathAddLib(path.get(), nullptr, nullptr, nullptr, 1);
   zelPathAddLib(path.get(), "Sl", nullptr, "Sv", 1);
   EXPECT_EQ(printed(path, "VHDL"), ":a@@l.(v)");
+}
+
+TEST(PathPrint, ShortForms) { // the long ones with malloc, in the order of the targets
+  const Path path = parse("Tessel", "|a|b[1:0]");
+  auto target = targets.begin();
+  for (const auto shortForm : {zelPathToVerilog, zelPathToKirra, zelPathToKirraHDL, zelPathToVHDL, zelPathToORKA,
+                               zelPathToTessel, zelPathToFlatTessel, zelPathToLef, zelPathToDef, zelPathToSdf,
+                               zelPathToSpf, zelPathToSpef, zelPathToGcf, zelPathToSpice})
+    EXPECT_EQ(take(shortForm(path.get(), nullptr, explode)), printed(path, *target++, explode));
 }
 
 TEST(PathPrint, NothingAndTooMuch) {
