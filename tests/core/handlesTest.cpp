@@ -16,13 +16,13 @@ const zelHandle handles[] = {zelORKAHandle,    zelTesselHandle,     zelKirraHand
 const std::string none(4, '\0');
 
 // A new handle of a template, which is then freed.
-void expectMade(zelHandle handle, zelHandle builtIn, const std::string &separators) {
-  ASSERT_NE(handle, nullptr);
-  EXPECT_NE(handle, builtIn);
-  EXPECT_EQ(handle->varBits, builtIn->varBits);
-  const auto &[pinDelimiter, divider, busOpen, busClose] = handle->separators;
+void expectMade(zelHandle made, zelHandle builtIn, const std::string &separators) {
+  ASSERT_NE(made, nullptr);
+  EXPECT_NE(made, builtIn);
+  EXPECT_EQ(made->varBits, builtIn->varBits);
+  const auto &[pinDelimiter, divider, busOpen, busClose] = made->separators;
   EXPECT_EQ(std::string({pinDelimiter, divider, busOpen, busClose}), separators);
-  zelFreeHandle(handle);
+  zelFreeHandle(made);
 }
 } // namespace
 

@@ -54,13 +54,12 @@ TEST(CurrentHandle, standsForOneCallWhateverTheOutcome) {
   // An allocator that has no memory, and notes whether the x of a handle is in force when it is asked.
   struct Probe {
     const Driven &space;
-    bool nests = false;
-    std::string seen = "";
+    zelHandle inner; // of a call inside
+    std::string seen = {};
 
     static void *allocate(std::uint64_t, void *context) {
       auto &self = *static_cast<Probe *>(context);
-      if (self.nests) // the end of the inner call puts the default in force
-        self.space.write("", nullptr, nullptr, zelGetHandle(self.space.name.c_str(), 0, 0, 0, 0));
+      self.space.write("", nullptr, nullptr, self.inner);
       self.seen += self.space.isEscapable('x') != 0 ? 'x' : '-';
       return nullptr;
     }
@@ -72,11 +71,12 @@ TEST(CurrentHandle, standsForOneCallWhateverTheOutcome) {
         EXPECT_EQ(take(conversion(text, nullptr, nullptr, handle.get())).has_value(), text != nullptr && *text != '\0');
         EXPECT_EQ(space.isEscapable('x'), 0);
       }
-      for (const bool nests : {false, true}) {
-        Probe probe = {space, nests};
+      // The end of a call inside puts the default in force, but not without a handle.
+      for (const zelHandle inner : {zelHandle(), zelGetHandle(space.name.c_str(), 0, 0, 0, 0)}) {
+        Probe probe = {space, inner};
         for (const zelHandle each : {handle.get(), zelHandle()})
           EXPECT_EQ(conversion("Sa", Probe::allocate, &probe, each), nullptr);
-        EXPECT_EQ(probe.seen, nests ? "--" : "x-") << space.name;
+        EXPECT_EQ(probe.seen, inner != nullptr ? "--" : "x-") << space.name;
       }
     }
   }

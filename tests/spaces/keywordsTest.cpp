@@ -17,32 +17,32 @@ const char *const reservedWords = R"(
 
 const struct Language {
   char letter;
+  int vhdlMode;
   int (*isKeyword)(const char *);
   int (*verify)();
   zelIsLegalFunc isNormal = nullptr; // where a keyword is no normal name
-  int vhdlMode = 2;
-  long complaints = 0; // of the self-check, and the first of them
+  long complaints = 0;               // of the self-check, and the first of them
   std::string complaint = {};
-} languages[] = {{'v', zelIsVerilogKeyword, zelVerifyVerilogKeywords, zelIsLegalVerilogNormal},
-                 {'m', zelIsVerilogAMSKeyword, zelVerifyVerilogAMSKeywords, zelIsLegalVerilogAMSNormal},
-                 {'a', zelIsVerilogAKeyword, zelVerifyVerilogAKeywords, zelIsLegalVerilogANormal, 2, 1,
+} languages[] = {{'v', 2, zelIsVerilogKeyword, zelVerifyVerilogKeywords, zelIsLegalVerilogNormal},
+                 {'m', 2, zelIsVerilogAMSKeyword, zelVerifyVerilogAMSKeywords, zelIsLegalVerilogAMSNormal},
+                 {'a', 2, zelIsVerilogAKeyword, zelVerifyVerilogAKeywords, zelIsLegalVerilogANormal, 1,
                   "keyword 'ac_stim' should precede keyword 'acosh'"},
-                 {'h', zelIsVHDLKeyword, zelVerifyVHDLKeywords, zelIsLegalVHDLNormal},
-                 {'7', zelIsVHDLKeyword, zelVerifyVHDLKeywords, zelIsLegalVHDLNormal, 1},
-                 {'7', zelIsVHDL87Keyword, zelVerifyVHDL87Keywords, zelIsLegalVHDL87Normal},
-                 {'s', zelIsVHDLAMSKeyword, zelVerifyVHDLAMSKeywords, zelIsLegalVHDLAMSNormal, 1},
-                 {'k', zelIsKirraKeyword, zelVerifyKirraKeywords, zelIsLegalKirra, 2, 4,
+                 {'h', 2, zelIsVHDLKeyword, zelVerifyVHDLKeywords, zelIsLegalVHDLNormal},
+                 {'7', 1, zelIsVHDLKeyword, zelVerifyVHDLKeywords, zelIsLegalVHDLNormal},
+                 {'7', 2, zelIsVHDL87Keyword, zelVerifyVHDL87Keywords, zelIsLegalVHDL87Normal},
+                 {'s', 1, zelIsVHDLAMSKeyword, zelVerifyVHDLAMSKeywords, zelIsLegalVHDLAMSNormal},
+                 {'k', 2, zelIsKirraKeyword, zelVerifyKirraKeywords, zelIsLegalKirra, 4,
                   "Expected keyword 'library' to start with character 'i'"},
-                 {'d', zelIsKirraHDLKeyword, zelVerifyKirraHDLKeywords, zelIsLegalKirraHDLNormal, 2, 8,
+                 {'d', 2, zelIsKirraHDLKeyword, zelVerifyKirraHDLKeywords, zelIsLegalKirraHDLNormal, 8,
                   "Expected keyword 'laplace_nd' to start with character 'i'"},
-                 {'p', zelIsSpiceKeyword, zelVerifySpiceKeywords},
-                 {'e', zelIsDefKeyword, zelVerifyDefKeywords},
-                 {'l', zelIsLefKeyword, zelVerifyLefKeywords, nullptr, 2, 3,
+                 {'p', 2, zelIsSpiceKeyword, zelVerifySpiceKeywords},
+                 {'e', 2, zelIsDefKeyword, zelVerifyDefKeywords},
+                 {'l', 2, zelIsLefKeyword, zelVerifyLefKeywords, nullptr, 3,
                   "keyword 'outputresistance' should precede keyword 'outputresistance'"}};
 } // namespace
 
 TEST(Keywords, areFoundWhereTheSearchPasses) {
-  for (const auto &[letter, isKeyword, verify, isNormal, vhdlMode, complaints, complaint] : languages) {
+  for (const auto &[letter, vhdlMode, isKeyword, verify, isNormal, complaints, complaint] : languages) {
     SCOPED_TRACE(letter);
     const VHDLMode mode(vhdlMode);
     const bool folds = std::strchr("h7sel", letter) != nullptr;

@@ -33,7 +33,7 @@ TEST(Limits, of2047CharactersInBothDirections) {
       EXPECT_EQ(isLegal(text.c_str()), 0);
     }
     // What is written counts, escapes and what stands around them.
-    for (const std::size_t count : {1, 400}) {
+    for (const std::size_t count : {1U, 400U}) {
       const std::string escaped(count, '\xff');
       const std::size_t width = convert(write, ("Ia" + escaped).c_str()).value_or("").size() - 1;
       const std::string ident = 'I' + std::string(ZEL_MAX_NAME - width, 'a') + escaped;

@@ -36,7 +36,7 @@ TEST(RoundTrip, keepsEveryIdent) {
       for (const std::string &space : allSpaces())
         for (const char marker : {'S', 'I', 'F'}) {
           const std::string ident = marker + body;
-          if (RE::PartialMatch(space + ':' + std::to_string(state) + ident, lost))
+          if (RE::PartialMatch(std::string(space).append(1, ':').append(std::to_string(state)).append(ident), lost))
             continue;
           const MapState scope(state);
           const Result name = convert(spaceOf(space)->identToName, ident.c_str());
