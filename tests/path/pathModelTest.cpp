@@ -139,45 +139,46 @@ TEST(PathModel, RemovalOfIndexesAndLevels) {
 }
 
 TEST(PathModel, RemovalFromALocation) {
-  for (const auto &[left, location] : {std::pair(0U, 0U), {0, 256}, {1, 257}, {5, 261}, {6, 512}, {8, 514}, {9, 521}}) {
+  for (const auto &[left, location] : {std::pair(0, 0U), {0, 256}, {1, 257}, {5, 261}, {6, 512}, {8, 514}, {9, 521}}) {
     Memory memory;
     const zelPath path = zelCreatePath(Memory::alloc, &memory);
     for (int i = 0; i < 9; ++i) // six in the head
-      zelPathAddIdent(path, memory.string("Sa"), 0);
+      zelPathAddIdent(path, zelNewString("Sa", Memory::alloc, &memory), 0);
     zelPathRemoveFromLocation(path, location, Memory::free, &memory);
-    EXPECT_EQ(memory.live.size(), left + (location < 512 ? 1 : 2)) << location; // and chunks
-    zelPathAddIdent(path, memory.string("Sb"), 0);
-    EXPECT_EQ(itemsOf(path), repeated("Sa ", left) + "Sb");
+    EXPECT_EQ(memory.live, left + (location < 512 ? 1 : 2)) << location; // and chunks
+    zelPathAddIdent(path, zelNewString("Sb", Memory::alloc, &memory), 0);
+    EXPECT_EQ(itemsOf(path), repeated("Sa ", static_cast<std::size_t>(left)) + "Sb");
     zelFreePathFromLocation(path, 18, Memory::free, &memory); // behind the head's items: only what follows goes
-    EXPECT_EQ(path->used, std::min(left, 6U)) << location;    // its slots stay taken
+    EXPECT_EQ(path->used, std::min(left, 6)) << location;     // its slots stay taken
     zelFreePath(path, Memory::free, &memory);
-    EXPECT_TRUE(memory.live.empty());
+    EXPECT_EQ(memory.live, 0);
   }
 }
 
 TEST(PathModel, ReleasesWhatItOwnsOnce) {
   Memory memory;
   const zelPath path = zelCreatePath(Memory::alloc, &memory);
-  char *const borrowed = memory.string("Sx");
-  zelPathAddTopIdent(path, memory.string("Sa"), 0);
+  char *const borrowed = zelNewString("Sx", Memory::alloc, &memory);
+  zelPathAddTopIdent(path, zelNewString("Sa", Memory::alloc, &memory), 0);
   zelPathAddIdent(path, nullptr, 0);
   zelPathAddTopIdent(path, borrowed, 1);
   zelPathAddLib(path, borrowed, borrowed, borrowed, 1);
   const std::uint32_t behindMark = zelPathGetLastLocation(path);
-  zelPathAddLib(path, memory.string("Sl"), memory.string("Sc"), memory.string("Sv"), 0); // not shared, unlike the last
-  zelPathAddLib(path, nullptr, memory.string("Sc"), nullptr, 0);
+  zelPathAddLib(path, zelNewString("Sl", Memory::alloc, &memory), zelNewString("Sc", Memory::alloc, &memory),
+                zelNewString("Sv", Memory::alloc, &memory), 0); // not shared, unlike the last
+  zelPathAddLib(path, nullptr, zelNewString("Sc", Memory::alloc, &memory), nullptr, 0);
   zelPathAddStepRange(path, 0, 27, 35); // numbers are no items
   zelPathAddStepRange(path, 19, 200, 43);
-  const std::size_t all = memory.live.size();
+  const int all = memory.live;
   zelFreePathFromLocation(path->next, path->next->used, Memory::free, &memory); // nothing is left to release there
-  EXPECT_EQ(memory.live.size(), all);
+  EXPECT_EQ(memory.live, all);
   zelPathRemoveFromLocation(path, behindMark, Memory::free, &memory);
   zelFreePath(path, Memory::free, &memory);
-  EXPECT_EQ(memory.live, std::set<void *>{borrowed});
   Memory::free(borrowed, &memory);
+  EXPECT_EQ(memory.live, 0);
   for (const char *const text : {"@l.c(v):a", "a@l.c,b", "@l.c(v", "@l.c,@d"})
     zelFreePath(zelParseVHDL(text, nullptr, Memory::alloc, &memory), Memory::free, &memory);
-  EXPECT_TRUE(memory.live.empty());
+  EXPECT_EQ(memory.live, 0);
 }
 
 TEST(PathModel, NullArguments) {

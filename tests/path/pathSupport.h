@@ -190,24 +190,4 @@ inline std::string mapped(const std::string &source, const std::string &text, co
   return printed(path, target, flags);
 }
 
-// Memory for the allocator convention that knows what it gave, and fails one request when left others were served.
-struct Memory {
-  std::set<void *> live;
-  int left = -1; // never
-  int failures = 0;
-
-  static void *alloc(std::uint64_t size, void *context) {
-    auto &memory = *static_cast<Memory *>(context);
-    if (memory.left-- != 0)
-      return *memory.live.insert(std::malloc(size)).first;
-    ++memory.failures;
-    return nullptr;
-  }
-  static void free(void *block, void *context) {
-    EXPECT_EQ(static_cast<Memory *>(context)->live.erase(block), 1U) << "released without being owned";
-    std::free(block);
-  }
-  char *string(const char *text) { return zelNewString(text, alloc, this); }
-};
-
 #endif

@@ -22,18 +22,24 @@ using Result = std::optional<std::string>;
 inline Result resultOf(const char *text) { return text == nullptr ? Result() : Result(text); }
 inline Result take(char *result) { return resultOf(Owned(result).get()); }
 
-// Gives exactly the bytes that it is asked for, so that a write past them is noticed; null when malloc fails.
-struct Allocator {
+// For the allocator convention: gives exactly the bytes that it is asked for, so that a write past them is noticed, and
+// null when malloc fails.
+struct Memory {
   int requests = 0;
+  int live = 0; // blocks that were not released
   std::uint64_t size = 0;
-  Owned memory = nullptr;
 
-  static void *allocate(std::uint64_t size, void *context) {
-    auto &self = *static_cast<Allocator *>(context);
+  static void *alloc(std::uint64_t size, void *context) {
+    auto &self = *static_cast<Memory *>(context);
     ++self.requests;
     self.size = size;
-    self.memory.reset(static_cast<char *>(std::malloc(size)));
-    return self.memory.get();
+    void *const block = std::malloc(size);
+    self.live += block != nullptr ? 1 : 0;
+    return block;
+  }
+  static void free(void *block, void *context) {
+    --static_cast<Memory *>(context)->live;
+    std::free(block);
   }
 };
 
@@ -45,20 +51,19 @@ template <typename Conversion> Result convert(Conversion conversion, const char 
   const Result result = take(conversion(input, nullptr, nullptr));
   const int error = errno;
   char buffer[ZEL_MAX_NAME + 2] = "?";
-  Allocator allocator;
+  Memory memory;
   EXPECT_EQ(resultOf(conversion(input, nullptr, buffer)), result);
   EXPECT_EQ(buffer, result.value_or("?"));
-  EXPECT_EQ(resultOf(conversion(input, Allocator::allocate, &allocator)), result);
-  EXPECT_EQ(allocator.requests, result ? 1 : 0);
-  EXPECT_EQ(allocator.size, result ? result->size() + 1 : 0);
+  EXPECT_EQ(take(conversion(input, Memory::alloc, &memory)), result);
+  EXPECT_EQ(memory.requests, result ? 1 : 0);
+  EXPECT_EQ(memory.size, result ? result->size() + 1 : 0);
   static const bool mallocFails = failingMalloc::isInPlace();
   for (const bool isOwn : {true, false}) {
     if (!result || !mallocFails)
       break;
     errno = 0;
     failingMalloc::left = 0;
-    EXPECT_EQ(isOwn ? conversion(input, nullptr, nullptr) : conversion(input, Allocator::allocate, &allocator),
-              nullptr);
+    EXPECT_EQ(isOwn ? conversion(input, nullptr, nullptr) : conversion(input, Memory::alloc, &memory), nullptr);
     failingMalloc::left = -1;
     EXPECT_EQ(errno, ENOMEM);
   }
