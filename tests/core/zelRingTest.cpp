@@ -25,7 +25,7 @@ TEST(Ring, reusesItsBuffersAndMarksWhatIsTenAllocationsOld) {
 TEST(Ring, staysUsableWithoutMemory) {
   zelRing ring = nullptr;
   // No ring, no first buffer; then in every second round no larger one.
-  for (unsigned call = 0; call < 100 && failingMalloc::isInPlace(); ++call) {
+  for (unsigned call = 0; call < 100; ++call) {
     const bool fails = call < 2 || call / 15 % 2 != 0;
     errno = 0;
     failingMalloc::left = !fails ? -1 : call == 1 ? 1 : 0;

@@ -1,12 +1,12 @@
 // Several threads map at once, with different separators, and get what one thread gets.
 #include "path/pathSupport.h"
 
+#include <algorithm>
 #include <thread>
 
 namespace {
 
-constexpr int threadCount = 8;
-constexpr int rounds = 40;
+constexpr int threadCount = 8, rounds = 40;
 
 // Everything that one caller with separators of its own maps, through its own ring.
 std::vector<std::string> mapAll(int caller) {
@@ -18,10 +18,10 @@ std::vector<std::string> mapAll(int caller) {
   for (const char *const *from = zelGetAllSpaceNames(); *from != nullptr; ++from)
     for (const char *const *to = zelGetAllSpaceNames(); *to != nullptr; ++to)
       keep(zelMapName(*from, *to, names[results.size() % names.size()].c_str(), zelAllocRing, &ring));
-  const std::pair<const char *, decltype(&zelIdentToSdfWithHandle)> redefinable[] = {
-      {"Sdf", zelIdentToSdfWithHandle}, {"Spf", zelIdentToSpfWithHandle}, {"Spef", zelIdentToSpefWithHandle},
-      {"Gcf", zelIdentToGcfWithHandle}, {"Lef", zelIdentToLefWithHandle}, {"Def", zelIdentToDefWithHandle}};
-  for (const auto &[space, write] : redefinable) {
+  for (const auto &[space, write] : {std::pair("Sdf", &zelIdentToSdfWithHandle),
+                                     {"Spf", zelIdentToSpfWithHandle},
+                                     {"Lef", zelIdentToLefWithHandle},
+                                     {"Def", zelIdentToDefWithHandle}}) {
     const Handle handle(zelGetHandle(space, 0, separator, '(', ')'));
     for (const std::string &ident : split("Stop IReg Sa/b Sa.b[3] Ix:y S#2341 Sa%20b F_\\ Sa|b<1> Sq{}"))
       keep(write(ident.c_str(), zelAllocRing, &ring, handle.get()));
@@ -30,8 +30,6 @@ std::vector<std::string> mapAll(int caller) {
         keep(zelPathMapperEx(path.c_str(), zelVerilogHandle, handle.get(), flags, nullptr, nullptr, zelAllocRing,
                              &ring));
   }
-  for (const std::string &target : targets)
-    keep(zelPathMapperEx("top.a[1:0].\\b+c .d", nullptr, nullptr, 1, "Verilog", target.c_str(), zelAllocRing, &ring));
   zelFreeRing(&ring);
   return results;
 }
@@ -51,8 +49,7 @@ TEST(Threads, MapAsOneThreadDoes) {
     });
   for (std::thread &thread : threads)
     thread.join();
-  for (const int count : differing)
-    EXPECT_EQ(count, 0);
+  EXPECT_EQ(std::count(differing, differing + threadCount, 0), threadCount);
 }
 
 } // namespace

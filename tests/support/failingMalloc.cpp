@@ -1,49 +1,27 @@
-// They stand on what would serve without them: the sanitizer's, where there is one, or the C library's. ThreadSanitizer
-// allocates before it can bear instrumented functions; there malloc is left alone.
+// The linker is told to wrap both functions (--wrap), whatever serves them: the C library or a sanitizer.
 #include "failingMalloc.h"
 
-#include <cstdlib>
+#include <cstddef>
 
-// NOLINTBEGIN(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
 namespace failingMalloc {
 thread_local int left = -1;
 thread_local int failures = 0;
+} // namespace failingMalloc
 
-bool isInPlace() {
-  left = 0;
-  void *volatile block = std::malloc(1);
-  left = -1;
-  std::free(block);
-  return block == nullptr;
-}
-
-inline bool fails() {
+namespace {
+bool fails() {
+  using namespace failingMalloc;
   const bool isTheOne = left >= 0 && left-- == 0;
   failures += isTheOne ? 1 : 0;
   return isTheOne;
 }
-} // namespace failingMalloc
+} // namespace
 
-#ifndef __has_feature
-#define __has_feature(feature) 0
-#endif
-#if !defined(__SANITIZE_THREAD__) && !__has_feature(thread_sanitizer)
-using failingMalloc::fails;
-
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
-void *__interceptor_malloc(std::size_t size) __attribute__((weak));
-void *__interceptor_calloc(std::size_t count, std::size_t size) __attribute__((weak));
-void *__libc_malloc(std::size_t size);
-void *__libc_calloc(std::size_t count, std::size_t size);
-
-void *malloc(std::size_t size) noexcept {
-  return fails() ? nullptr : __interceptor_malloc != nullptr ? __interceptor_malloc(size) : __libc_malloc(size);
+void *__real_malloc(std::size_t size);
+void *__real_calloc(std::size_t count, std::size_t size);
+void *__wrap_malloc(std::size_t size) { return fails() ? nullptr : __real_malloc(size); }
+void *__wrap_calloc(std::size_t count, std::size_t size) { return fails() ? nullptr : __real_calloc(count, size); }
 }
-void *calloc(std::size_t count, std::size_t size) noexcept {
-  return fails()                           ? nullptr
-         : __interceptor_calloc != nullptr ? __interceptor_calloc(count, size)
-                                           : __libc_calloc(count, size);
-}
-}
-#endif
-// NOLINTEND(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
+// NOLINTEND(bugprone-reserved-identifier)

@@ -1,4 +1,5 @@
-// malloc and calloc of the test program that fail on request.
+// malloc and calloc that fail on request, for all that is linked into a test program: the library and the tests, but
+// not what they share with others.
 #ifndef SUPPORT_FAILINGMALLOC_H
 #define SUPPORT_FAILINGMALLOC_H
 
@@ -6,7 +7,6 @@ namespace failingMalloc {
 // Of this thread: the calls that are served before one fails; none fails while it is negative.
 extern thread_local int left;
 extern thread_local int failures;
-bool isInPlace(); // not where a tool's own malloc stands in the way
 } // namespace failingMalloc
 
 #endif

@@ -57,15 +57,12 @@ template <typename Conversion> Result convert(Conversion conversion, const char 
   EXPECT_EQ(take(conversion(input, Memory::alloc, &memory)), result);
   EXPECT_EQ(memory.requests, result ? 1 : 0);
   EXPECT_EQ(memory.size, result ? result->size() + 1 : 0);
-  static const bool mallocFails = failingMalloc::isInPlace();
-  for (const bool isOwn : {true, false}) {
-    if (!result || !mallocFails)
-      break;
+  for (const zelAllocFunc alloc : {zelAllocFunc(), zelAllocFunc(Memory::alloc)}) {
     errno = 0;
     failingMalloc::left = 0;
-    EXPECT_EQ(isOwn ? conversion(input, nullptr, nullptr) : conversion(input, Memory::alloc, &memory), nullptr);
+    EXPECT_EQ(conversion(input, alloc, alloc == nullptr ? nullptr : &memory), nullptr);
     failingMalloc::left = -1;
-    EXPECT_EQ(errno, ENOMEM);
+    EXPECT_EQ(errno, result ? ENOMEM : error);
   }
   errno = error;
   return result;
