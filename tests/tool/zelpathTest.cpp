@@ -68,23 +68,14 @@ TEST(Options, Usage) {
   EXPECT_EQ(outputOf("zelpath"), shortUsage);
 }
 
+// The fuzz target of the options finds every abbreviation by counting.
 TEST(Options, Abbreviations) {
-  EXPECT_EQ(outputOf("zelpath -e -ex -exp -expl -explo -explod -explode -gr -gro -grou -group -h -he -hel -help -noc "
-                     "-noco -nocom -nocomp -nocompl -nocomple -nocomplex -nor -nore -norep -norepe -norepea -norepeat "
-                     "-p -pa -par -pars -parse -to -top | sed -n /Error/p"),
-            "");
-  const std::pair<std::string, std::string> complaints[] = {
-      {"requires an argument", "-gc -gcf -kirra -mu -mut -muta -mutat -mutate -o -or -ork -orka -s -sp -spi -spic "
-                               "-spice -te -tes -tess -tesse -tessel -ve -ver -veri -veril -verilo -verilog -vh -vhd "
-                               "-vhdl -VERILOG -vHdL"},
-      {"is an ambiguous option", "- -g -k -ki -kir -kirr -m -n -no -t -v -K"},
-      // A capital in an option's name is out of reach.
-      {"doesn't match any known options", "-a -f -kirrah -kirraHDL -kirrax -maps -verilogs -vhdlx -z -[ -@ -{ --help "
-                                          "-\xC3\xA9"},
-  };
-  for (const auto &[complaint, options] : complaints)
-    Filter{" | sed -n \"s/^Error: \\(.*\\) " + complaint + "$/\\1/p\" | xargs"}.check(
-        {{"zelpath " + options, options}});
+  Filter{" | sed -n /Error/p"}.check({
+      {"zelpath -e -gr -noc -nor -p -to -z", "Error: -z doesn't match any known options"},
+      {"zelpath -vHdL", "Error: -vHdL requires an argument"},
+      {"zelpath -kirr", "Error: -kirr is an ambiguous option"},
+      {"zelpath -kirraHDL", "Error: -kirraHDL doesn't match any known options"}, // a capital of a name is out of reach
+  });
 }
 
 TEST(Options, Scanning) {
@@ -92,12 +83,10 @@ TEST(Options, Scanning) {
   const std::string wrongMap = "Error: See the correct usage.\n";
   complaintsAndEnd.check({
       {"zelpath a b", given + "Verilog: a"},
-      {"zelpath -vhdl a b c", given + given + "VHDL:    a"},
       {"zelpath '' a", given + "Verilog: "},
       // The argument of a refused option is scanned on its own, and no complaint ends the scan.
       {"zelpath -verilog a -vhdl b", given + given + "Verilog: a"},
       {"zelpath -vhdl -verilog a", "Error: -vhdl requires an argument\nVerilog: a"},
-      {"zelpath -z a", "Error: -z doesn't match any known options\nVerilog: a"},
       {"zelpath -vhdl a -mu b", "VHDL:    a"},
       {"zelpath -mutate -vhdl a", "Error: -mutate requires an argument\nVHDL:    a"},
       {"zelpath -mutate b -mutate a", "Error: mutate already given\nVerilog: a"},
@@ -208,7 +197,6 @@ TEST(Mapping, ThereAndBack) {
       // A later one replaces the spaces.
       {"zelpath -map Nosuch Verilog -map VHDL Verilog a", mapping("a", toVerilog, "a", "a")},
       {"zelpath -map Nosuch VHDL a", "Could not get handle for the namespace:Nosuch\nQuitting the mapping."},
-      {"zelpath -map VHDL VerilogA a", "Could not get handle for the namespace:VerilogA\nQuitting the mapping."},
       {"zelpath -map Nosuch Nowhere a 2>/dev/null", "Quitting the mapping."},
       {"zelpath -map -ve a 2>&1 >/dev/null", "Could not get handle for the namespace:(null)"},
       {"zelpath -map Verilog VHDL 'a['", "Could not map the path. Please check the path and try."},
