@@ -38,29 +38,6 @@ TEST(PathModel, ItemsAreStoredAsKindAndNumbers) {
   }
 }
 
-// "item→index range step repeat Ident cell", the step preset to 41 and the cell to c.
-TEST(PathModel, GettersReadOnlyTheirKind) {
-  const Path path = built("Sa [3] [7:1] [0:600:2] <*5> @Sl.Sc");
-  zelPathGenStart(path.get());
-  for (const Row &row : rowsOf("1→-1·-1:-1·40:40:41·-1·Sa·c 2→3·-1:-1·40:40:41·-1·-·c 3→-1·7:1·40:40:41·-1·-·c "
-                               "4→-1·0:600·0:600:2·-1·-·c 5→-1·-1:-1·40:40:41·5·-·c 12→-1·-1:-1·40:40:41·-1·-·Sc "
-                               "13→-1·-1:-1·40:40:41·-1·-·c")) {
-    int n[] = {0, 0, 0, 0, 41};
-    const char *cell = "c", *end = "end";
-    std::ostringstream read;
-    EXPECT_EQ(std::to_string(zelPathGenNext(path.get())), row.input);
-    zelPathGetRange(path.get(), &n[0], &n[1]);
-    zelPathGetStepRange(path.get(), &n[2], &n[3], &n[4]);
-    zelPathGetLib(path.get(), nullptr, &cell, nullptr);
-    read << zelPathGetIndex(path.get()) << ' ' << n[0] << ':' << n[1] << ' ' << n[2] << ':' << n[3] << ':' << n[4]
-         << ' ' << zelPathGetRepeat(path.get()) << ' ' << resultOf(zelPathGetIdent(path.get())).value_or("-") << ' '
-         << cell;
-    EXPECT_EQ(read.str(), row.result);
-    EXPECT_EQ(zelPathGetString(path.get(), &end), nullptr);
-    EXPECT_EQ(end, nullptr);
-  }
-}
-
 // On request (and then kept as text when it fails), or for printing (and then lost when it fails). Verilog's plain
 // names have case, those of the other languages none where no capital says so.
 TEST(PathModel, NamesAreConvertedOnce) {
@@ -190,14 +167,31 @@ TEST(PathModel, NullArguments) {
   EXPECT_EQ(zelPathGetLocation(nullptr) + zelPathSetLocation(nullptr, 256) + zelPathGetLastLocation(nullptr), 0U);
   EXPECT_EQ(zelPathRemoveIndex(nullptr) + zelPathRemoveLevel(nullptr) + zelPathGetFlag(nullptr), -21);
   EXPECT_EQ(zelStrToIdent(nullptr, 0), nullptr);
-  const Path some = built("[0:600] @Sl.Sc");
+  zelPathGetRange(nullptr, nullptr, nullptr);
+  zelPathGetStepRange(nullptr, nullptr, nullptr, nullptr);
+}
+
+// The step is preset to 41, library, cell and view to "l".
+TEST(PathModel, GettersReadOnlyTheirKind) {
+  const Path some = built("Sa [3] [7:1] [0:600:2] <*5> @Sl.Sc");
   for (const zelPath path : {zelPath(), some.get()})
     for (int item = 0; item != ZEL_ITEM_END; item = zelPathGenNext(path)) {
-      EXPECT_EQ(zelPathGetIndex(path) + zelPathGetRepeat(path), -2);
-      EXPECT_EQ(zelPathGetIdent(path), zelPathGetString(path, nullptr));
-      zelPathGetRange(path, nullptr, nullptr);
-      zelPathGetStepRange(path, nullptr, nullptr, nullptr);
+      int from = 0, to = 0, stepFrom = 0, stepTo = 0, step = 41;
+      const char *names[] = {"l", "l", "l"};
+      zelPathGetRange(path, &from, &to);
+      zelPathGetStepRange(path, &stepFrom, &stepTo, &step);
+      zelPathGetLib(path, &names[0], &names[1], &names[2]);
       zelPathGetLib(path, nullptr, nullptr, nullptr);
+      const bool isStep = item == ZEL_ITEM_STEP_RANGE;
+      const bool isRange = item == ZEL_ITEM_RANGE || isStep;
+      EXPECT_EQ(zelPathGetIndex(path), item == ZEL_ITEM_INDEX ? 3 : -1);
+      EXPECT_EQ(std::pair(from, to), !isRange ? std::pair(-1, -1) : isStep ? std::pair(0, 600) : std::pair(7, 1));
+      EXPECT_EQ(std::tuple(stepFrom, stepTo, step), isStep ? std::tuple(0, 600, 2) : std::tuple(40, 40, 41));
+      EXPECT_EQ(zelPathGetRepeat(path), item == ZEL_ITEM_REPEAT ? 5 : -1);
+      EXPECT_EQ(zelPathGetIdent(path) != nullptr, item == ZEL_ITEM_IDENT);
+      EXPECT_EQ(zelPathGetString(path, nullptr), nullptr);
+      EXPECT_EQ(resultOf(names[1]), item == ZEL_ITEM_LIB ? "Sc" : "l");
+      EXPECT_EQ(names[2] == nullptr, item == ZEL_ITEM_LIB);
     }
 }
 
