@@ -64,6 +64,10 @@ TEST(PathModel, NamesAreConvertedOnce) {
   EXPECT_EQ(zelStrToIdent(illegal.get(), 0), nullptr);
   EXPECT_EQ(itemsOf(illegal.get()), "- c");
   EXPECT_EQ(zelStrToIdent(illegal.get(), 99), nullptr);
+  const Path unknown = parse("Sdf", "a");
+  unknown->flags |= zeli::languageMask << zeli::languageShift;
+  zelPathSetLocation(unknown.get(), 256);
+  EXPECT_TRUE(zelPathGetIdent(unknown.get()) == nullptr && zelStrToIdent(unknown.get(), 0) == nullptr);
   EXPECT_STREQ(zelStrToIdent(parse("Def.<>", R"(a\<[.b)").get(), 0), "Ia<["); // with the separators of the path
 }
 
@@ -85,6 +89,9 @@ TEST(PathModel, Locations) {
   zelPathSetLocation(p.get(), 260);
   EXPECT_EQ(zelPathGetIndex(p.get()), -1); // nothing stands at the end
   EXPECT_EQ(zelPathGetIdent(p.get()), nullptr);
+  zelPath found = nullptr;
+  EXPECT_EQ(zeliPrevItem(l.get(), l->next, 0, &found), 27 + 7);
+  EXPECT_EQ(found, l.get());
   // Back by what the walk takes the last item to be, and looked for in the first chunk.
   for (const Row &row : rowsOf("→0 Sa·[3]·Sb→259 Sa·[0:200]→257 Sa·[0:6:2]→258 Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa→455"))
     EXPECT_EQ(std::to_string(zelPathGetLastLocation(built(row.input).get())), row.result) << row.input;
@@ -105,6 +112,9 @@ TEST(PathModel, RemovalOfIndexesAndLevels) {
     }
     EXPECT_EQ(found, row.result) << row.input;
   }
+  const Path cut = built("[0:6:2]");
+  zelPathRemoveIndex(cut.get());
+  EXPECT_EQ(itemsOf(cut.get()), "[0:6:-1]"); // where a byte of a number is gone
   const Path path = built(repeated("Sa ", 9));
   EXPECT_EQ(zelPathRemoveLevel(path.get()), reinterpret_cast<intptr_t>(path->next));
   EXPECT_EQ(itemsOf(path.get()), repeated("Sa ", 7) + "Sa");

@@ -42,7 +42,7 @@ TEST(PathParse, VHDL) {
       a(1␣to␣2):b→a·[1:2]·b|HIRM a(3)b→a·[3]|EI a(3␣)→a|EI a(3␣))→a·[3]|I a(3␣␣→a|EI a(7␣downto0)→a|EI a(7␣to␣→a|EI
       a(7␣downto→a|EI a(0␣to␣3␣to␣4)→a|EI a()→a|EI a(-1)→a|EI a(b)→a|EI a(3:4)→a|EI a(3,4)→a·,|EIL a:(3)→a|EH (3)→|E
       →|E :→|E a:→a|EH a␣b→a|E 1a→|E aé→a|E a(1897152)→a|EI a(1␣to␣1897152)→a|EI a,b,c→a·,·b·,·c|L a&␣b→a·,·b|L
-      a(3)&&b:c→a·[3]·,·b·c|HIL a&b→a·,|EL a&bc→a·,·c|L a&&→a·,|EL a,b&c→a·,·b|EL a&&b,c→a·,·b|EL ,a→,·a|L
+      a(3)&&b:c→a·[3]·,·b·c|HIL a&b→a·,|EL a&bc→a·,·c|L a&→a·,|EL a&&→a·,|EL a,b&c→a·,·b|EL a&&b,c→a·,·b|EL ,a→,·a|L
       a,,b→a·,·,·b|L :,a→,·a|L a,:b→a·,|EHL @l.c(v)→@Il.Ic(Iv) @l.c()→@Il.Ic @c→@-.Ic ␣@␣l␣.␣c␣(␣v␣)␣→@Il.Ic(Iv)
       @\L\.c→@SL.Ic a@l.c(v)→a·@Il.Ic(Iv) a(3)@c→a·[3]·@-.Ic|I a,@c→a·,·@-.Ic|L @l.c(v):a→@Il.Ic(Iv)·a|H
       @l.c:a→@Il.Ic·a|H @c:a→@-.Ic·a|H a(3)@l.c:b→a·[3]·@Il.Ic·b|HIm a(3)@c:b→a·[3]·@-.Ic·b|HI
@@ -93,7 +93,7 @@ TEST(PathParse, BusFormats) {
       Spice → a.b.c→a·b·c|H ␣a␣.␣b␣→a·b|H 1.-2→1·-2|H a[3]→a[3] a\.b.c→a\.b·c|H a..b→a|EH .a→|E a.→a|EH a␣b→a·b|E [a→|E
       ]a→|E a.[3]→a|EH a:b→|E a:.b→a:·b|H ab\:c→ab\:c aé→a|E
       Sdf.<> Spf.<> Spef.<> Lef.<> Def.<> a.b<3>→a·b·[3]|HI ..a→a|/ a\.b<1:0>.c→a\.b·[1:0]·c|HRM Spf.<> a/b[3]→a/b[3]
-      Lef.<> a/b→|E a[→|E Def.<> a/b→a/b a[→a[ Spef: a:b→a·b|H a[1:0]→a|E Sdfxoc axbo3c→a·b·[3]|HI xa\xb→a\xb|/
+      Lef.<> a/b→|E a[→|E Lef\ a\b→a·b|H Def.<> a/b→a/b a[→a[ Spef: a:b→a·b|H a[1:0]→a|E Sdfxoc axbo3c→a·b·[3]|HI xa\xb→a\xb|/
       o1:0c→[1:0]|R Sdf1 a1b→a·b|H a[1]→a|E)");
 }
 

@@ -8,6 +8,7 @@
 #include "path/language.h"
 #include "support/rules.h"
 
+#include <cstdio>
 #include <map>
 #include <set>
 
@@ -33,7 +34,7 @@ struct PathSpace {
 };
 inline PathSpace spaceAt(const std::string &head) {
   static std::map<std::string, Handle> made;
-  const std::size_t end = std::min(head.find_first_of(".:1x"), head.size());
+  const std::size_t end = std::min(head.find_first_of(".:1x\\"), head.size());
   const std::string name = head.substr(0, end), separators = head.substr(end) + std::string(3, '\0');
   const zeli::VarBits &space = *zelGetHandle(name.c_str(), 0, 0, 0, 0)->varBits;
   if (end != head.size() && made[head] == nullptr)
@@ -68,36 +69,30 @@ inline std::string identAt(zelPath path) {
 // indexes, [*2] index repeat, ( ) index list; <*2> group repeat, { , } list; @library.cell(view), "-" for a null name;
 // ? no item.
 inline std::string itemsOf(zelPath path) {
-  std::ostringstream text;
+  static constexpr const char *formats[] = {
+      " ^", " ",  " [%d]", " [%d:%d]", " [%d:%d:%d]", " <*%d>", " {", " ,",
+      " }", " (", " )",    " [*%d]",   " @",          "",       " ?"}; // by the numbers of the items
+  std::string text;
   zelPathGenStart(path);
-  const char *gap = "";
-  for (int item = zelPathGenNext(path); item != ZEL_ITEM_END; item = zelPathGenNext(path), gap = " ") {
-    std::int32_t from = 0, to = 0, step = 0;
-    const char *library = nullptr, *cell = nullptr, *view = nullptr;
-    zelPathGetStepRange(path, &from, &to, &step);
-    text << gap;
-    if (item == ZEL_ITEM_TOP_IDENT || item == ZEL_ITEM_IDENT) {
-      text << (item == ZEL_ITEM_TOP_IDENT ? "^" : "") << identAt(path);
-    } else if (item == ZEL_ITEM_INDEX) {
-      text << '[' << zelPathGetIndex(path) << ']';
-    } else if (item == ZEL_ITEM_RANGE) {
-      zelPathGetRange(path, &from, &to);
-      text << '[' << from << ':' << to << ']';
-    } else if (item == ZEL_ITEM_STEP_RANGE) {
-      text << '[' << from << ':' << to << ':' << step << ']';
-    } else if (item == ZEL_ITEM_REPEAT) {
-      text << "<*" << zelPathGetRepeat(path) << '>';
-    } else if (item == ZEL_ITEM_INDEX_REPEAT) {
-      text << "[*" << zelPathGetRepeat(path) << ']';
-    } else if (item == ZEL_ITEM_LIB) {
-      zelPathGetLib(path, &library, &cell, &view);
-      text << '@' << resultOf(library).value_or("-") << '.' << resultOf(cell).value_or("-");
-      text << (view != nullptr ? '(' + std::string(view) + ')' : "");
-    } else {
-      text << (item == ZEL_ITEM_NONE ? '?' : "{,}()"[item - ZEL_ITEM_LIST_START]);
-    }
+  for (int item = zelPathGenNext(path); item != ZEL_ITEM_END; item = zelPathGenNext(path)) {
+    const char *names[3] = {};
+    std::int32_t n[3] = {};
+    zelPathGetStepRange(path, &n[0], &n[1], &n[2]);
+    if (item == ZEL_ITEM_RANGE)
+      zelPathGetRange(path, &n[0], &n[1]);
+    else if (item != ZEL_ITEM_STEP_RANGE)
+      n[0] = item == ZEL_ITEM_INDEX ? zelPathGetIndex(path) : zelPathGetRepeat(path);
+    char shown[40];
+    std::snprintf(shown, sizeof shown, formats[item], n[0], n[1], n[2]);
+    text += shown;
+    if (item == ZEL_ITEM_TOP_IDENT || item == ZEL_ITEM_IDENT)
+      text += identAt(path);
+    zelPathGetLib(path, &names[0], &names[1], &names[2]);
+    if (item == ZEL_ITEM_LIB)
+      text += resultOf(names[0]).value_or("-") + '.' + resultOf(names[1]).value_or("-");
+    text += names[2] != nullptr ? '(' + std::string(names[2]) + ')' : "";
   }
-  return text.str();
+  return text.empty() ? text : text.substr(1);
 }
 
 // The flag word: E error, H hierarchy, I index, R range, C complex, m mid index, M mid range, * repeat, L list,
