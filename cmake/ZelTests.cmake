@@ -1,4 +1,5 @@
-# One GoogleTest program per folder, one C99 program per file of tests/c, and checks of the built files themselves.
+# One GoogleTest program per folder of the library, zelpath by its command line, one C99 program per file of tests/c, and
+# checks of the built files themselves.
 
 find_package(GTest REQUIRED)
 include(GoogleTest)
@@ -6,7 +7,7 @@ enable_testing()
 
 set(zel_test_dir ${PROJECT_BINARY_DIR}/tests)
 
-foreach(folder IN ITEMS core spaces path tool)
+foreach(folder IN ITEMS core spaces path)
   file(GLOB sources CONFIGURE_DEPENDS tests/${folder}/*.cpp)
   if(NOT sources)
     continue()
@@ -17,12 +18,10 @@ foreach(folder IN ITEMS core spaces path tool)
   target_include_directories(${program} PRIVATE lib tests)
   target_link_libraries(${program} PRIVATE zel_static GTest::gtest_main)
   target_link_options(${program} PRIVATE LINKER:--wrap=malloc,--wrap=calloc)
-  if(folder STREQUAL "tool")
-    target_compile_definitions(${program} PRIVATE ZELPATH_FOLDER="$<TARGET_FILE_DIR:zelpath>")
-    add_dependencies(${program} zelpath)
-  endif()
   gtest_discover_tests(${program} TEST_PREFIX ${folder}. DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60)
 endforeach()
+
+add_test(NAME tool.zelpath COMMAND ${PROJECT_SOURCE_DIR}/tests/tool/zelpath.sh $<TARGET_FILE_DIR:zelpath>)
 
 file(GLOB sources CONFIGURE_DEPENDS tests/c/*.c)
 foreach(source IN LISTS sources)

@@ -48,7 +48,7 @@ const struct {
 
 TEST_P(PathAllocation, Parsing) {
   for (const auto &[source, byName, byRange, sample] : samples)
-    for (int shift = 0; shift < 18; ++shift) {
+    for (std::size_t shift = 0; shift < 18; ++shift) {
       const std::string text = repeated(byName, shift % 6) + repeated(byRange, shift / 6) + sample;
       const std::string whole = itemsOf(parse(source, text.c_str()).get());
       failEach([&, source = source] { return spaceAt(source).parse(text.c_str(), nullptr, alloc, context); },

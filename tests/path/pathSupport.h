@@ -35,10 +35,11 @@ struct PathSpace {
 inline PathSpace spaceAt(const std::string &head) {
   static std::map<std::string, Handle> made;
   const std::size_t end = std::min(head.find_first_of(".:1x\\"), head.size());
-  const std::string name = head.substr(0, end), separators = head.substr(end) + std::string(3, '\0');
+  const std::string name = head.substr(0, end);
+  const auto separator = [&](std::size_t i) { return end + i < head.size() ? std::uint32_t(head[end + i]) : 0U; };
   const zeli::VarBits &space = *zelGetHandle(name.c_str(), 0, 0, 0, 0)->varBits;
   if (end != head.size() && made[head] == nullptr)
-    made[head].reset(zelGetHandle(name.c_str(), 0, separators[0], separators[1], separators[2]));
+    made[head].reset(zelGetHandle(name.c_str(), 0, separator(0), separator(1), separator(2)));
   return {space.parse, space.print, made[head].get()};
 }
 
