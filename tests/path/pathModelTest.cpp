@@ -177,8 +177,6 @@ TEST(PathModel, NullArguments) {
   EXPECT_EQ(zelPathGetLocation(nullptr) + zelPathSetLocation(nullptr, 256) + zelPathGetLastLocation(nullptr), 0U);
   EXPECT_EQ(zelPathRemoveIndex(nullptr) + zelPathRemoveLevel(nullptr) + zelPathGetFlag(nullptr), -21);
   EXPECT_EQ(zelStrToIdent(nullptr, 0), nullptr);
-  zelPathGetRange(nullptr, nullptr, nullptr);
-  zelPathGetStepRange(nullptr, nullptr, nullptr, nullptr);
 }
 
 // The step is preset to 41, library, cell and view to "l".
@@ -188,7 +186,9 @@ TEST(PathModel, GettersReadOnlyTheirKind) {
     for (int item = 0; item != ZEL_ITEM_END; item = zelPathGenNext(path)) {
       int from = 0, to = 0, stepFrom = 0, stepTo = 0, step = 41;
       const char *names[] = {"l", "l", "l"};
+      zelPathGetRange(path, nullptr, nullptr);
       zelPathGetRange(path, &from, &to);
+      zelPathGetStepRange(path, nullptr, nullptr, nullptr);
       zelPathGetStepRange(path, &stepFrom, &stepTo, &step);
       zelPathGetLib(path, &names[0], &names[1], &names[2]);
       zelPathGetLib(path, nullptr, nullptr, nullptr);

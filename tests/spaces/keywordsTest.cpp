@@ -21,28 +21,23 @@ const struct Language {
   int (*isKeyword)(const char *);
   int (*verify)();
   zelIsLegalFunc isNormal = nullptr; // where a keyword is no normal name
-  long complaints = 0;               // of the self-check, and the first of them
-  std::string complaint = {};
+  long complaints = 0;               // of the self-check
 } languages[] = {{'v', 2, zelIsVerilogKeyword, zelVerifyVerilogKeywords, zelIsLegalVerilogNormal},
                  {'m', 2, zelIsVerilogAMSKeyword, zelVerifyVerilogAMSKeywords, zelIsLegalVerilogAMSNormal},
-                 {'a', 2, zelIsVerilogAKeyword, zelVerifyVerilogAKeywords, zelIsLegalVerilogANormal, 1,
-                  "keyword 'ac_stim' should precede keyword 'acosh'"},
+                 {'a', 2, zelIsVerilogAKeyword, zelVerifyVerilogAKeywords, zelIsLegalVerilogANormal, 1},
                  {'h', 2, zelIsVHDLKeyword, zelVerifyVHDLKeywords, zelIsLegalVHDLNormal},
                  {'7', 1, zelIsVHDLKeyword, zelVerifyVHDLKeywords, zelIsLegalVHDLNormal},
                  {'7', 2, zelIsVHDL87Keyword, zelVerifyVHDL87Keywords, zelIsLegalVHDL87Normal},
                  {'s', 1, zelIsVHDLAMSKeyword, zelVerifyVHDLAMSKeywords, zelIsLegalVHDLAMSNormal},
-                 {'k', 2, zelIsKirraKeyword, zelVerifyKirraKeywords, zelIsLegalKirra, 4,
-                  "Expected keyword 'library' to start with character 'i'"},
-                 {'d', 2, zelIsKirraHDLKeyword, zelVerifyKirraHDLKeywords, zelIsLegalKirraHDLNormal, 8,
-                  "Expected keyword 'laplace_nd' to start with character 'i'"},
+                 {'k', 2, zelIsKirraKeyword, zelVerifyKirraKeywords, zelIsLegalKirra, 4},
+                 {'d', 2, zelIsKirraHDLKeyword, zelVerifyKirraHDLKeywords, zelIsLegalKirraHDLNormal, 8},
                  {'p', 2, zelIsSpiceKeyword, zelVerifySpiceKeywords},
                  {'e', 2, zelIsDefKeyword, zelVerifyDefKeywords},
-                 {'l', 2, zelIsLefKeyword, zelVerifyLefKeywords, nullptr, 3,
-                  "keyword 'outputresistance' should precede keyword 'outputresistance'"}};
+                 {'l', 2, zelIsLefKeyword, zelVerifyLefKeywords, nullptr, 3}};
 } // namespace
 
 TEST(Keywords, areFoundWhereTheSearchPasses) {
-  for (const auto &[letter, vhdlMode, isKeyword, verify, isNormal, complaints, complaint] : languages) {
+  for (const auto &[letter, vhdlMode, isKeyword, verify, isNormal, complaints] : languages) {
     SCOPED_TRACE(letter);
     const VHDLMode mode(vhdlMode);
     const bool folds = std::strchr("h7sel", letter) != nullptr;
@@ -61,6 +56,7 @@ TEST(Keywords, areFoundWhereTheSearchPasses) {
     EXPECT_EQ(verify(), complaints == 0 ? 1 : 0);
     const std::string text = testing::internal::GetCapturedStderr();
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), complaints);
-    EXPECT_TRUE(complaints == 0 || text.starts_with("Error: " + complaint + '\n')) << text;
+    EXPECT_TRUE(letter != 'a' || text == "Error: keyword 'ac_stim' should precede keyword 'acosh'\n") << text;
+    EXPECT_TRUE(letter != 'k' || text.starts_with("Error: Expected keyword 'library' to start with character 'i'\n"));
   }
 }
