@@ -1,7 +1,5 @@
 // The linker is told to wrap both functions (--wrap), whatever serves them: the C library or a sanitizer.
-#include "failingMalloc.h"
-
-#include <cstddef>
+#include "results.h"
 
 namespace failingMalloc {
 thread_local int left = -1;

@@ -3,7 +3,6 @@
 #define SUPPORT_RESULTS_H
 
 #include "core/zel.h"
-#include "failingMalloc.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -11,6 +10,13 @@
 #include <memory>
 #include <optional>
 #include <string>
+
+// malloc and calloc fail on request, for all that is linked into a test program: the library and the tests, but not
+// what they share with others. Of this thread:
+namespace failingMalloc {
+extern thread_local int left; // calls that are served before one fails; none fails while it is negative
+extern thread_local int failures;
+} // namespace failingMalloc
 
 struct Free {
   void operator()(void *memory) const { std::free(memory); }
