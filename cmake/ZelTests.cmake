@@ -1,5 +1,5 @@
-# One GoogleTest program per folder of the library, zelpath by its command line, one C99 program per file of tests/c, and
-# checks of the built files themselves.
+# One GoogleTest program per folder of the library, zelpath by its command line, and checks of
+# the built files themselves.
 
 find_package(GTest REQUIRED)
 include(GoogleTest)
@@ -22,16 +22,6 @@ foreach(folder IN ITEMS core spaces path)
 endforeach()
 
 add_test(NAME tool.zelpath COMMAND ${PROJECT_SOURCE_DIR}/tests/tool/zelpath.sh $<TARGET_FILE_DIR:zelpath>)
-
-file(GLOB sources CONFIGURE_DEPENDS tests/c/*.c)
-foreach(source IN LISTS sources)
-  cmake_path(GET source STEM name)
-  set(program zel_test_c_${name})
-  add_executable(${program} ${source})
-  set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${zel_test_dir})
-  target_link_libraries(${program} PRIVATE zel_shared)
-  add_test(NAME c.${name} COMMAND ${program})
-endforeach()
 
 # gcov, and clang's sanitizers, add symbols of their own to the library's.
 if(NOT ZEL_COVERAGE AND NOT (ZEL_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "Clang"))
