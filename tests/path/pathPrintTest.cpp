@@ -138,7 +138,7 @@ TEST(PathExplode, Enumerations) {
             <3:0>→[3],[2],[1],[0] <1:0>.a<1:0>→[1]a[1],[1]a[0],[0]a[1],[0]a[0]
       built> Verilog +explode Sa·,·[1:0]·Sb→a,a,[1:0]b Sa·,·[1:0]·Sb·[1:0]→a,a,a,a,[1:0]b[1:0]
             Sa·,·[3]·[1:0]·Sb·[1:0]→a,a,a,[3][1:0]b[1],b[0])");
-  EXPECT_EQ(mapped("ORKA", "a<0*124>", "Verilog"), "a[0]" + repeated(",a[0]", 124)); // the repeat in its long form
+  EXPECT_EQ(mapped("ORKA", "a<0*124>", "Verilog"), "a[0]" + repeated(",a[0]", 124));
 }
 
 // Groups stay as they are, and so does what is in them when they are to be expanded.
