@@ -101,7 +101,7 @@ TEST(PathPrint, ShortForms) { // the long ones with malloc, in the order of the 
 TEST(PathPrint, NothingAndTooMuch) {
   const std::string longest = std::string(1023, 'a') + '.' + std::string(1023, 'b');
   for (const std::string &target : targets)
-    for (int flags = 0; flags < everyFlag; ++flags) {
+    for (int flags = 0; flags < 32; ++flags) {
       SCOPED_TRACE(target + ' ' + std::to_string(flags));
       EXPECT_EQ(printed(nullptr, target, flags) + printed(built(""), target, flags), "");
       EXPECT_EQ(mapped("Verilog", 'a' + longest, target, flags), "EINVAL");

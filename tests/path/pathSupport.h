@@ -10,13 +10,13 @@
 
 #include <cstdio>
 #include <map>
+#include <memory>
 #include <set>
 
 inline const std::vector<std::string> sources = split(
     "Verilog ORKA VHDL VerilogAMS VHDLAMS Tessel Kirra KirraHDL Lef Def Sdf Spf Spef Gcf Spice VHDL87 FlatTessel");
 inline const std::vector<std::string> targets =
     split("Verilog Kirra KirraHDL VHDL ORKA Tessel FlatTessel Lef Def Sdf Spf Spef Gcf Spice");
-constexpr int everyFlag = 32; // flag words below it
 
 struct Release {
   void operator()(zelPath path) const { zelFreePath(path, nullptr, nullptr); }

@@ -32,9 +32,11 @@ TEST(Limits, of2047CharactersInBothDirections) {
       expectRefused(read, text);
       EXPECT_EQ(isLegal(text.c_str()), 0);
     }
-    // What is written counts: the escape of the last byte as well.
-    const Result escaped = convert(write, "I\xff");
-    expectRefused(write, 'I' + std::string(ZEL_MAX_NAME + 1 - escaped.value_or("").size(), 'a') + "a\xff");
+    // What is written counts, escapes and what stands around them.
+    const std::size_t width = convert(write, "Ia\xff").value_or("").size() - 1;
+    const std::string fits = 'I' + std::string(ZEL_MAX_NAME - width, 'a') + '\xff';
+    EXPECT_EQ(convert(write, fits.c_str()).value_or("").size(), std::size_t{ZEL_MAX_NAME});
+    expectRefused(write, fits + 'a');
   }
 }
 

@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -18,15 +17,14 @@ extern thread_local int left; // calls that are served before one fails; none fa
 extern thread_local int failures;
 } // namespace failingMalloc
 
-struct Free {
-  void operator()(void *memory) const { std::free(memory); }
-};
-using Owned = std::unique_ptr<char, Free>;
-
 // What a function returned, and nothing for null.
 using Result = std::optional<std::string>;
 inline Result resultOf(const char *text) { return text == nullptr ? Result() : Result(text); }
-inline Result take(char *result) { return resultOf(Owned(result).get()); }
+inline Result take(char *result) {
+  const Result taken = resultOf(result);
+  std::free(result);
+  return taken;
+}
 
 // For the allocator convention: gives exactly the bytes that it is asked for, so that a write past them is noticed, and
 // null when malloc fails.
