@@ -44,7 +44,8 @@ TEST(PathModel, NamesAreConvertedOnce) {
   for (const std::string &source : sources) {
     SCOPED_TRACE(source);
     const char *const expected = source == "Verilog" || source == "VerilogAMS" || source == "KirraHDL" ? "Sa" : "Ia";
-    const Path path = parse(source, "a"), other = parse(source, "a");
+    const Path path = parse(source, "a");
+    const Path other = parse(source, "a");
     zelPathSetLocation(path.get(), 256);
     const char *end = nullptr;
     EXPECT_EQ(zelPathGetString(path.get(), &end) == nullptr,
@@ -73,7 +74,8 @@ TEST(PathModel, NamesAreConvertedOnce) {
 // "path location→result item location": what setting gives, and the item behind with its location. p has items in the
 // bytes 0, 1 and 3; l has eight in the head.
 TEST(PathModel, Locations) {
-  const Path p = built("Sa [3] Sb"), l = built(repeated("Sa ", 10));
+  const Path p = built("Sa [3] Sb");
+  const Path l = built(repeated("Sa ", 10));
   zelPathGenStart(p.get());
   EXPECT_EQ(zelPathGetLocation(p.get()) + zelPathGetLocation(l.get()), 456U); // before the first item, and nowhere yet
   for (const Row &row :
@@ -179,19 +181,19 @@ TEST(PathModel, GettersReadOnlyTheirKind) {
   const Path some = built("Sa [3] [7:1] [0:600:2] <*5> @Sl.Sc");
   for (const zelPath path : {zelPath(), some.get()})
     for (int item = 0; item != ZEL_ITEM_END; item = zelPathGenNext(path)) {
-      int from = 0, to = 0, stepFrom = 0, stepTo = 0, step = 41;
+      int n[] = {0, 0, 0, 0, 41};
       const char *names[] = {"l", "l", "l"};
       zelPathGetRange(path, nullptr, nullptr);
-      zelPathGetRange(path, &from, &to);
+      zelPathGetRange(path, &n[0], &n[1]);
       zelPathGetStepRange(path, nullptr, nullptr, nullptr);
-      zelPathGetStepRange(path, &stepFrom, &stepTo, &step);
+      zelPathGetStepRange(path, &n[2], &n[3], &n[4]);
       zelPathGetLib(path, &names[0], &names[1], &names[2]);
       zelPathGetLib(path, nullptr, nullptr, nullptr);
       const bool isStep = item == ZEL_ITEM_STEP_RANGE;
       const bool isRange = item == ZEL_ITEM_RANGE || isStep;
       EXPECT_EQ(zelPathGetIndex(path), item == ZEL_ITEM_INDEX ? 3 : -1);
-      EXPECT_EQ(std::pair(from, to), !isRange ? std::pair(-1, -1) : isStep ? std::pair(0, 600) : std::pair(7, 1));
-      EXPECT_EQ(std::tuple(stepFrom, stepTo, step), isStep ? std::tuple(0, 600, 2) : std::tuple(40, 40, 41));
+      EXPECT_EQ(std::pair(n[0], n[1]), !isRange ? std::pair(-1, -1) : isStep ? std::pair(0, 600) : std::pair(7, 1));
+      EXPECT_EQ(std::tuple(n[2], n[3], n[4]), isStep ? std::tuple(0, 600, 2) : std::tuple(40, 40, 41));
       EXPECT_EQ(zelPathGetRepeat(path), item == ZEL_ITEM_REPEAT ? 5 : -1);
       EXPECT_EQ(zelPathGetIdent(path) != nullptr, item == ZEL_ITEM_IDENT);
       EXPECT_EQ(zelPathGetString(path, nullptr), nullptr);

@@ -8,8 +8,10 @@ void expectParsed(const char *table) {
   for (const Case &row : casesOf(table))
     for (const std::string &source : row.heads) {
       const Path path = parse(source, row.text.c_str());
-      const std::string items = itemsOf(path.get()), flags = flagsOf(path.get());
-      EXPECT_EQ(items + (flags.empty() ? "" : "|") + flags, row.result) << source << " '" << row.text << "'";
+      std::string found = itemsOf(path.get());
+      if (const std::string flags = flagsOf(path.get()); !flags.empty())
+        found.append("|").append(flags);
+      EXPECT_EQ(found, row.result) << source << " '" << row.text << "'";
     }
 }
 

@@ -31,9 +31,9 @@ TEST(PathProperty, TimeIsLinear) {
 TEST(PathMapper, TakesNamesOrHandlesUnderEveryConvention) {
   for (const std::string &source : sources)
     for (const std::string &target : sources) {
-      const zelHandle from = zelGetHandle(source.c_str(), 0, 0, 0, 0), to = zelGetHandle(target.c_str(), 0, 0, 0, 0);
-      const auto map = [=](const char *text, zelAllocFunc alloc, void *context) {
-        return zelPathMapperEx(text, from, to, 0, nullptr, nullptr, alloc, context);
+      const auto map = [&](const char *text, zelAllocFunc alloc, void *context) {
+        return zelPathMapperEx(text, zelGetHandle(source.c_str(), 0, 0, 0, 0), zelGetHandle(target.c_str(), 0, 0, 0, 0),
+                               0, nullptr, nullptr, alloc, context);
       };
       const std::string expected = mapped(source, "a1", target);
       EXPECT_EQ(convert(map, "a1"), expected);

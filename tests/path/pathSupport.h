@@ -175,7 +175,7 @@ inline std::string printed(const Path &path, const std::string &target, int flag
   const PathSpace space = spaceAt(target);
   const auto print = [&] { return take(space.print(path.get(), space.handle, flags, nullptr, nullptr)); };
   errno = 0;
-  const std::string text = print().value_or(errno == EINVAL ? "EINVAL" : "null");
+  std::string text = print().value_or(errno == EINVAL ? "EINVAL" : "null");
   EXPECT_EQ(print().value_or("EINVAL"), text) << target << ", again";
   return text;
 }

@@ -9,7 +9,7 @@ namespace {
 constexpr int threadCount = 8, rounds = 40;
 
 // Everything that one caller with separators of its own maps, through its own ring.
-std::vector<std::string> mapAll(int caller) {
+std::vector<std::string> mapAll(std::size_t caller) {
   const auto separator = static_cast<unsigned char>("./|:_-#x"[caller]);
   const std::vector<std::string> names = split(R"(clk Data_Out \a+b␣ \a␣b\ u1/u2 a#20b x[3] signal 2n3904 %Lib)");
   std::vector<std::string> results;
@@ -35,9 +35,9 @@ std::vector<std::string> mapAll(int caller) {
 }
 
 TEST(Threads, MapAsOneThreadDoes) {
-  std::vector<std::vector<std::string>> expected;
-  for (int caller = 0; caller < threadCount; ++caller)
-    expected.push_back(mapAll(caller));
+  std::vector<std::vector<std::string>> expected(threadCount);
+  for (std::size_t caller = 0; caller < threadCount; ++caller)
+    expected[caller] = mapAll(caller);
   EXPECT_NE(expected[0], expected[1]); // the separators do make a difference
   EXPECT_GT(expected[0].size() * threadCount * rounds, 300000U);
   int differing[threadCount] = {};
@@ -45,7 +45,7 @@ TEST(Threads, MapAsOneThreadDoes) {
   for (std::size_t caller = 0; caller < threadCount; ++caller)
     threads.emplace_back([&expected, &differing, caller] {
       for (int round = 0; round < rounds; ++round)
-        differing[caller] += mapAll(static_cast<int>(caller)) != expected[caller] ? 1 : 0;
+        differing[caller] += mapAll(caller) != expected[caller] ? 1 : 0;
     });
   for (std::thread &thread : threads)
     thread.join();

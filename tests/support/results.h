@@ -21,7 +21,7 @@ extern thread_local int failures;
 using Result = std::optional<std::string>;
 inline Result resultOf(const char *text) { return text == nullptr ? Result() : Result(text); }
 inline Result take(char *result) {
-  const Result taken = resultOf(result);
+  Result taken = resultOf(result);
   std::free(result);
   return taken;
 }
@@ -52,7 +52,7 @@ struct Memory {
 // 0 when it set none.
 template <typename Conversion> Result convert(Conversion conversion, const char *input) {
   errno = 0;
-  const Result result = take(conversion(input, nullptr, nullptr));
+  Result result = take(conversion(input, nullptr, nullptr));
   const int error = errno;
   char buffer[ZEL_MAX_NAME + 2] = "?";
   Memory memory;
