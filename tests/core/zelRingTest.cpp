@@ -7,9 +7,7 @@ TEST(Ring, reusesItsBuffersAndMarksWhatIsTenAllocationsOld) {
   zelRing ring = nullptr;
   char *results[40] = {};
   // Of lengths that grow and shrink, up to the 20 bytes that the smallest buffer holds.
-  const auto text = [](int i) {
-    return "result " + std::to_string(i) + std::string(static_cast<unsigned>(i * 7 % 11), 'x');
-  };
+  const auto text = [](int i) { return std::to_string(i) + std::string(static_cast<unsigned>(i * 7 % 18), 'x'); };
   for (int i = 0; i < 40; ++i) {
     results[i] = zelNewString(text(i).c_str(), zelAllocRing, &ring);
     for (int j = i < 14 ? 0 : i - 14; j <= i; ++j)

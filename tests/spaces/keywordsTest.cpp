@@ -7,13 +7,12 @@
 namespace {
 // A word, and the letters of the languages that reserve it.
 const char *const reservedWords = R"(
-    Y→ y→ abs→mah7skd ac_stim→md acosh→mkd acos→makd ac→p align→e all→h7sp and→vmah7sl array→h7sel ascii→d
-    atanh→makd const→vmd cpersqdistcurrentcurrentdencurrentsourcecutcutarea→l default→vmadl do→del else→vmah7skdl
-    end→vmah7skel e→e fall→pel for→vmah7skd generate→mah7sdel global→kd group→hse ifnone→vma impure→hs inertial→hs
-    library→h7sl limexp→m literal→hs ln→ma local→ log10→ log→ma max→makdpe model→kdp nature→mas n→e
-    outputresistance→l out→h7se pathdelay_max0→m postponed→hs pure→hs quantity→sd reject→hs return→h7skd rol→hs
-    ror→hs r→p shared→hs sla→hs sll→hs sra→hs srl→hs s→e tabledimension→l to→mh7skpl transitiontri→a transition→md
-    tri→vm type→h7sl unaffected→hs until→h7s weight→pe when→vmh7sdp wire→vmad xnor→vmahs xor→vmah7s x→l zout→p)";
+    Y→ y→ abs→mah7skd ac_stim→md acosh→mkd acos→makd ac→p all→h7sp ascii→d const→vmd
+    cpersqdistcurrentcurrentdencurrentsourcecutcutarea→l default→vmadl do→del else→vmah7skdl end→vmah7skel e→e
+    generate→mah7sdel global→kd group→hse ifnone→vma impure→hs library→h7sl limexp→m ln→ma local→ log→ma max→makdpe
+    model→kdp nature→mas n→e outputresistance→l pathdelay_max0→m postponed→hs pure→hs quantity→sd reject→hs
+    return→h7skd rol→hs ror→hs r→p shared→hs sll→hs sra→hs s→e tabledimension→l to→mh7skpl transitiontri→a
+    transition→md tri→vm unaffected→hs until→h7s when→vmh7sdp wire→vmad xnor→vmahs xor→vmah7s x→l zout→p)";
 
 const struct Language {
   char letter;

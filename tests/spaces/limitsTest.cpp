@@ -46,7 +46,6 @@ TEST(Limits, holdForWhatIsRead) {
     const zelNameToIdentFunc read = spaceOf(name)->nameToIdent;
     const std::string body(ZEL_MAX_NAME - 4, 'a');
     EXPECT_EQ(convert(read, ("\\" + body + "\\").c_str()), "SESC_" + body) << name;
-    EXPECT_EQ(convert(read, ("\\A " + body + "\\").c_str()), "SA " + body) << name;
     expectRefused(read, "\\a" + body + "\\");
   }
 }

@@ -74,12 +74,11 @@ static const struct {
      Top⇒FTop A#2eb⇒FA.b in:VD SESC_top→ESC_top FESC_top→ESC_top in:TM SESC_top→top FESC_top→top SESC_→)"},
     {"Vellum", R"(SAbc→\Abc\ FAbc→\Abc\ IAbc→Abc SESC_Abc→\Abc\ SESC_→\\ IESC_abc→ESC_abc in:M SAbc→Abc FAbc→\Abc\
      Sabc→abc IAbc→Abc SA:b→'A:b' SESC_abc→\abc\ SESC_Abc→\Abc\ FESC_abc→\abc\ in:VDTM Sit's→'it''s' S'→''''
-     Sa\b→'a\b' Sa<b→'a<b' S␣a→#20a Sa␣→a#20 S␣␣→#20#20 Sa␣␣b→a␣␣b I␣:␣→'#20:#20' Sa␉→a#09 Sé→#e9 FA\b→\A\\b\
-     FA␣→\A␣\ FA'b→\A'b\ FA␉→\A#09\ FA#09→\A#2309\ \abc\⇒SESC_abc \Abc\⇒SAbc \a\\b\⇒SESC_a\b \\⇒SESC_
-     \a#09\⇒SESC_a#09 Abc⇒IAbc 'a:b'⇒Ia:b 'it''s'⇒Iit's "a""b"⇒Ia"b 'a"b'⇒Ia"b ''''⇒I' x'a:'y⇒Ixa:y a'␣'b⇒Ia␣b '\'⇒I\
-     #20a⇒I␣a ''#20a⇒I␣a 'a:#20'⇒Ia:␣ 'a:'#20⇒Ia:␣ a#20b⇒Ia#20b 'a:#20'b⇒Ia:#20b 'a#20''b'⇒Ia#20'b a#20''⇒Ia#20
-     #20#20a⇒I␣#20a a#E9⇒Iaé ✓a␣b ✓"a<b" ✓'\' ✓\a\\b\ ✓\\ ✓\␣a␣\ ✗␣a ✗a␣ ✗a<b ✗aé ✗'a ✗a" ✗'␣a' ✗'a␣' ✗a'␣' ✗'a"b:'c"
-     ✗\ ✗\a\b\ ✗\a\\ ✗\a␉\)"}};
+     Sa\b→'a\b' S␣a→#20a Sa␣→a#20 S␣␣→#20#20 I␣:␣→'#20:#20' Sa␉→a#09 Sé→#e9 FA\b→\A\\b\ FA'b→\A'b\ FA␉→\A#09\
+     FA#09→\A#2309\ \abc\⇒SESC_abc \Abc\⇒SAbc \a\\b\⇒SESC_a\b \\⇒SESC_ \a#09\⇒SESC_a#09 Abc⇒IAbc 'a:b'⇒Ia:b
+     'it''s'⇒Iit's "a""b"⇒Ia"b ''''⇒I' x'a:'y⇒Ixa:y a'␣'b⇒Ia␣b '\'⇒I\ #20a⇒I␣a ''#20a⇒I␣a 'a:#20'⇒Ia:␣ 'a:'#20⇒Ia:␣
+     a#20b⇒Ia#20b 'a:#20'b⇒Ia:#20b 'a#20''b'⇒Ia#20'b a#20''⇒Ia#20 #20#20a⇒I␣#20a a#E9⇒Iaé ✓a␣b ✓"a<b" ✓'\' ✓\\ ✓\␣a␣\
+     ✗a␣ ✗a" ✗'␣a' ✗'a␣' ✗a'␣' ✗'a"b:'c" ✗\ ✗\a\b\ ✗\a\\ ✗\a␉\)"}};
 
 TEST(Rules, holdInEverySpace) {
   const VHDLMode mode(2);
