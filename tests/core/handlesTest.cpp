@@ -36,6 +36,7 @@ TEST(Handle, takesWhatAFileRedefines) {
     std::string defaults = "????";
     EXPECT_EQ(zelGetHandleDefaults(name.c_str(), defaults.data(), &defaults[1], &defaults[2], &defaults[3]), 1);
     EXPECT_EQ(defaults, separators);
+    EXPECT_EQ(zelGetHandleDefaults(name.c_str(), nullptr, nullptr, nullptr, nullptr), 1);
     zelFreeHandle(handle); // to no effect
     for (const std::string &given : {none, separators}) {
       EXPECT_EQ(makeHandle(zelGetHandle, name, given), handle);

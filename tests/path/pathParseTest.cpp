@@ -22,7 +22,7 @@ TEST(PathParse, Verilog) {
       Verilog VerilogAMS Kirra KirraHDL → ␣␉␣→ ␣a␣.␣b␣→a·b|H a.→a|EH .a→|E a..b→a|EH a␣b→a·b|E aé→a|E
       a[3].b→a·[3]·b|HIm a[7:0].b→a·[7:0]·b|HRM a[␣3␣:␣0␣]→a·[3:0]|R a[-5]→a·[-5]|I a[-4:+2]→a·[-4:2]|R a[-]→a·[0]|I
       a[3]{b}→a·[3]·{·b·}|I a[1][2]→a·[1]|EI a[1:2:3]→a|E [3]→|E a[.b]→a|E a[3{→a|E a[-␣3]→a|E a[,b]→a·,·b|EL a[}→a·}|E
-      a[-200000]→a·[-200000]|I a[-200001]→a|E a[18446744073709551617]→a|E a[2:0],b→a·[2:0]·,·b|RL
+      a[]→a|E a,→a·,|EL a[-200000]→a·[-200000]|I a[-200001]→a|E a[18446744073709551617]→a|E a[2:0],b→a·[2:0]·,·b|RL
       {2{a,b}}→{·<*2>·{·a·,·b·}·}|*L {-2{a}}→{·<*-2>·{·a·}·}|* {2{3{a}}}→{·<*2>·{·<*3>·{·a·}·}·}|* {3a}→{·a·}
       {,a}→{·,·a·}|L {a}3→{·a·} {a},b→{·a·}·,·b|L a,{b}→a·,·{·b·}|L a,,b→a·,|EL ,a→|E {a→{·a|E {2{a}→{·<*2>·{·a·}|E*
       {2}→{|E {a}}→{·a·}·}|E {a}.b→{·a·}|E {a}[3]→{·a·}|E a{→a|E a.{b}→a|EH {1897152{a}}→{|E
@@ -40,7 +40,7 @@ TEST(PathParse, VHDL) {
       VHDL VHDLAMS VHDL87 a→a :top:u1(3)→top·u1·[3]|HI ␣:␣a␣:␣b␣→a·b|H a(7␣downto␣0)→a·[7:0]|IR a(5␣to␣3)→a·[5:3]|IR
       a(7downto␣0)→a·[7:0]|IR a(7␣DownTo␉0)→a·[7:0]|IR a(␣1␣to␣␣2␣)→a·[1:2]|IR a(3):b→a·[3]·b|HIm a(3)b→a·[3]|EI
       a(3␣)→a|EI a(3␣))→a·[3]|I a(3␣␣→a|EI a(7␣downto0)→a|EI a(7␣downto→a|EI a(0␣to␣3␣to␣4)→a|EI a()→a|EI a(-1)→a|EI
-      a(3:4)→a|EI a:(3)→a|EH (3)→|E →|E :→|E a:→a|EH a␣b→a|E aé→a|E a(1897152)→a|EI a(1␣to␣1897152)→a|EI
+      a(3:4)→a|EI a:(3)→a|EH (3)→|E →|E :→|E a:→a|EH a␣b→a|E 1a→|E aé→a|E a(1897152)→a|EI a(1␣to␣1897152)→a|EI
       a,b,c→a·,·b·,·c|L a&␣b→a·,·b|L a(3)&&b:c→a·[3]·,·b·c|HIL a&b→a·,|EL a&bc→a·,·c|L a&→a·,|EL a&&→a·,|EL
       a,b&c→a·,·b|EL a&&b,c→a·,·b|EL ,a→,·a|L :,a→,·a|L a,:b→a·,|EHL @l.c(v)→@Il.Ic(Iv) @l.c()→@Il.Ic
       ␣@␣l␣.␣c␣(␣v␣)␣→@Il.Ic(Iv) @\L\.c→@SL.Ic a@l.c(v)→a·@Il.Ic(Iv) a(3)@c→a·[3]·@-.Ic|I a,@c→a·,·@-.Ic|L
@@ -65,9 +65,9 @@ TEST(PathParse, ORKA) {
       a<((1,2)3)>→a·(·(·[1]·[2]·)·[3]·)|I a<1*2(3)>→a·[1]·[*2]·(·[3]·)|IX a<0:7>/b→a·[0:7]·b|HIRM
       a<0:200:2>/b→a·[0:200:2]·b|HIRX a<(0)>/b→a·(·[0]·)·b|HI a<1*200>/b→a·[1]·[*200]·b|HIX a<1>,b<2>→a·[1]·,·b·[2]|IL
       a<→a|E a<3→a·[3]|EI a<3:>→a|EI a<3:4:2:1>→a·[3:4:2]·?·:1|EIRX a<3:␣4>→a·4|EI a<1><2>→a·[1]·[2]|EI a<1,>→a·[1]|EI
-      a<1,,2>→a·[1]·,·2|EIL a<,1>→a·,·1|EL a<1␣2>→a·[1]·2|EI a<1:2␣3/b→a·[1:2]·3·b|EHIR a<-1>→a·-1|E a<*2>→a·*2|E
-      a<1*2*3>→a·[1]·[*2]·*3|EIX a<1/b→a·[1]·b|EHIm a<()>→a·}|E a<(b→a·b|E a<(1((b→a·(·[1]|EI a<(1)→a·(·[1]·)|EI
-      a<(1,(2))>→a·(·[1]|EI a<((1,2),3)>→a·(·(·[1]·[2]·)·,·3·}|EIL a<1897152>→a·1897152|E
+      a<1)>→a·[1]·}|EI a<1,,2>→a·[1]·,·2|EIL a<,1>→a·,·1|EL a<1␣2>→a·[1]·2|EI a<1:2␣3/b→a·[1:2]·3·b|EHIR a<-1>→a·-1|E
+      a<*2>→a·*2|E a<1*2*3>→a·[1]·[*2]·*3|EIX a<1/b→a·[1]·b|EHIm a<()>→a·}|E a<(b→a·b|E a<(1((b→a·(·[1]|EI
+      a<(1)→a·(·[1]·)|EI a<(1,(2))>→a·(·[1]|EI a<((1,2),3)>→a·(·(·[1]·[2]·)·,·3·}|EIL a<1897152>→a·1897152|E
       a<1*1897152>→a·[1]·1897152|EIX)");
 }
 

@@ -46,7 +46,7 @@ TEST(PathMapper, TakesNamesOrHandlesUnderEveryConvention) {
   EXPECT_EQ(zelPathMapper("a", nullptr, nullptr, 0, "Ascii", "VHDL"), nullptr);
   EXPECT_EQ(errno, EINVAL);
   EXPECT_EQ(zelPathMapper("a.", nullptr, nullptr, 0, "Verilog", "VHDL"), nullptr);
-  EXPECT_EQ(zelPathMapper(nullptr, nullptr, nullptr, 0, "Verilog", "VHDL"), nullptr);
+  EXPECT_EQ(zelPathMapper("a", nullptr, nullptr, 0, "VHDL", nullptr), nullptr);
 }
 
 } // namespace

@@ -42,7 +42,7 @@ static const struct {
      KEYWORD_KEYWORD_model⇒SKEYWORD_model KEYWORD_foo⇒SKEYWORD_foo KEYWORD_log⇒SKEYWORD_log
      KEYWORD_KEYWORD_KEYWORD_KEYWORD_model⇒SKEYWORD_KEYWORD_KEYWORD_KEYWORD_model S2n3904→2n3904 I2N3904→2n3904
      S1abc→\1abc S1_→\1_ S1a2!→1a2! S1a2.→\1a2\. S1a\.2→1a\.2 S1a2\→1a2\ S1a\→\1a\\ ✓1_2 ✓1a2! ✓1a2\ ✓1\éz9 ✗1abc ✗1_
-     ✗1a2. ✗1a-2 ✗1a\ in:M IModel→Model IA.B→A\.B I2N3904→2N3904 IKEYWORD_model→KEYWORD_KEYWORD_model)"},
+     S1!→\1! ✗1a2. ✗1a-2 ✗1a\ in:M IModel→Model IA.B→A\.B I2N3904→2N3904 IKEYWORD_model→KEYWORD_KEYWORD_model)"},
     // The first and the last character are not tested.
     {"Spice", R"(Sa.b→a\.b IA.B→a\.b Sa/b<3>→a/b<3> Sé→#e9 a#20b⇒Ia␣b A\,B⇒SA,B a#41⇒Ia#41 \#e9⇒Ié a\⇒Ia\ \⇒I\
      a\\⇒Ia\ é.⇒Ié. ✓.ab. ✓␣ ✓a\.b ✓(ab) ✗a.b ✗a\␣b ✗\.ab ✗aéz in:M IA.B→A\.B)"},
@@ -78,7 +78,7 @@ static const struct {
      FA#09→\A#2309\ \abc\⇒SESC_abc \Abc\⇒SAbc \a\\b\⇒SESC_a\b \\⇒SESC_ \a#09\⇒SESC_a#09 Abc⇒IAbc 'a:b'⇒Ia:b
      'it''s'⇒Iit's "a""b"⇒Ia"b ''''⇒I' x'a:'y⇒Ixa:y a'␣'b⇒Ia␣b '\'⇒I\ #20a⇒I␣a ''#20a⇒I␣a 'a:#20'⇒Ia:␣ 'a:'#20⇒Ia:␣
      a#20b⇒Ia#20b 'a:#20'b⇒Ia:#20b 'a#20''b'⇒Ia#20'b a#20''⇒Ia#20 #20#20a⇒I␣#20a a#E9⇒Iaé ✓a␣b ✓"a<b" ✓'\' ✓\\ ✓\␣a␣\
-     ✗a␣ ✗a" ✗'␣a' ✗'a␣' ✗a'␣' ✗'a"b:'c" ✗\ ✗\a\b\ ✗\a\\ ✗\a␉\)"}};
+     ✗␣a ✗a␣ ✗a" ✗'␣a' ✗'a␣' ✗a'␣' ✗'a"b:'c" ✗\ ✗\a\b\ ✗\a\\ ✗\a␉\)"}};
 
 TEST(Rules, holdInEverySpace) {
   const VHDLMode mode(2);

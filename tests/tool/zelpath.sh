@@ -75,20 +75,20 @@ prints "$(mapping /a/b Sdf FlatTessel '|a|b' '\|a\|b')"$'\n' 'zelpath -map Sdf F
 prints "$(mapping '' Verilog VHDL '' '(null)')"$'\n' "zelpath -map Verilog VHDL ''"
 # The path may come before, with a language option (of no effect), or as the third word.
 prints $'Error: path already given\n'"$(mapping a.b Verilog VHDL :a:b a.b)"$'\n' 'zelpath -vhdl a.b -map Verilog VHDL c'
-prints $'Could not get handle for the namespace:Nosuch\nQuitting the mapping.' 'zelpath -map Nosuch VHDL a'
+prints $'Could not get handle for the namespace:VerilogA\nQuitting the mapping.' 'zelpath -map VHDL VerilogA a'
 prints 'Could not get handle for the namespace:(null)' 'zelpath -map -ve a 2>&1 >/dev/null'
 prints 'Could not map the path. Please check the path and try.' "zelpath -map Verilog VHDL 'a['"
 
 filter="sed -n '/^Error/p;\$p'" # complaints, and the last line
-given=$'Error: path already given\n' wrongMap=$'Error: See the correct usage.\n'
-prints "Error: -z doesn't match any known options"$'\nVerilog: ' "zelpath '' -e -gr -noc -nor -to -z"
+given=$'Error: path already given\n' unknown="doesn't match any known options"
+prints "Error: -z $unknown"$'\n'"Error: -verilogs $unknown"$'\nVerilog: ' "zelpath '' -e -gr -noc -nor -to -z -verilogs"
 prints $'Error: -vHdL requires an argument\nVerilog: ' "zelpath '' -vHdL"
 prints "${given}Verilog: a" 'zelpath a b'
 # The argument of a refused option is scanned on its own, and no complaint ends the scan.
 prints "$given${given}Verilog: a" 'zelpath -verilog a -vhdl b'
 prints $'Error: -mutate requires an argument\nVHDL:    a' 'zelpath -mutate -vhdl a'
 prints $'Error: mutate already given\nVerilog: a' 'zelpath -mutate b -mutate a'
-prints "$wrongMap${given}Quitting the mapping." 'zelpath -map Verilog VHDL 2>/dev/null'
+prints $'Error: See the correct usage.\n'"${given}Quitting the mapping." 'zelpath -map Verilog VHDL 2>/dev/null'
 # All but index lists and index repeats is copied for the own line.
 prints 'Verilog: {2{a,b}}' "zelpath -veri '{2{a,b}}'"
 prints 'ORKA:    a<0,2>/b' "zelpath -orka 'a<(0,2)*1>/b'"
@@ -108,7 +108,8 @@ prints $'Flags: Index Range SingleORKA \n Top Ident a\n Step:   0:6:2\n ERROR!' 
 prints $'Flags: Index SingleORKA \n Ident a\n Index list\n Index:  0\n Index list end\n Index repeat: 1' \
     "zelpath -p -orka 'a<(0)*1>'"
 # A library reference in the input's language, with both marks whatever is missing; KirraHDL shows no text.
-prints "Flags: Hierarchy $single"$'\n Lib: Lib.\\a b\\:view\n Ident u1' "zelpath -p -vhdl '@Lib.\a b\(view):u1'"
+prints $'Flags: Hierarchy List \n Lib: Lib.\\a b\\:view\n Ident u1\n List\n Lib: .cell:' \
+    "zelpath -p -vhdl '@Lib.\a b\(view):u1&&@cell'"
 prints "Flags: ERROR! $single"$'\n Ident ' "zelpath -p -spice 'a\$b'"
 
 filter="grep -e Verilog -e VHDL -e ORKA" range=$'Verilog: a[1:0]\nVHDL:    a(1 downto 0)\nORKA:    a<1:0>'
