@@ -9,7 +9,11 @@ int main(void) {
   int refused = 0;
   while (fgets(line, sizeof line, stdin) != NULL) {
     char name[ZEL_MAX_NAME + 1]; /* the caller's buffer: nothing to free */
-    line[strcspn(line, "\n")] = '\0';
+    const size_t length = strcspn(line, "\n");
+    int rest = line[length];
+    line[length] = '\0';
+    while (length > ZEL_MAX_NAME && rest != '\n' && rest != EOF)
+      rest = getchar(); /* of a line that is too long for a name */
     if (zelIsLegalVerilog(line) && zelMapName("Verilog", "Spice", line, NULL, name) != NULL) {
       printf("%s\t%s\n", line, name);
     } else {

@@ -8,15 +8,17 @@
  *
  * - Strings are NUL-terminated bytes. Character classes are ASCII; a byte of 128 or above belongs to no class.
  * - A name, an Ident body and a result hold at most 2047 characters (ZEL_MAX_NAME).
- * - A null argument gives a null or zero result, never a crash.
+ * - A null argument gives a null or zero result unless the function names another, never a crash.
  * - A conversion that fails returns null and sets errno: EINVAL for an illegal or over-long input, ENOMEM when no
  *   memory could be had. A test returns 1 or 0 and leaves errno alone.
  * - Results are made under the allocator convention (zelAllocFunc) and belong to the caller.
  *
  * Threads. Calls from several threads need no lock as long as they work on different paths, rings and output
- * buffers: what is constant (descriptors, built-in handles, keywords) may be shared freely, and the process-wide
- * settings (zelSetMapState, zelSetVHDLMode) are atomic. One path, ring or handle being freed belongs to one thread
- * at a time; also printing or walking a path writes into it.
+ * buffers: a path and a ring belong to one thread at a time, also while a path is only walked or printed, which writes
+ * into it. What is constant (descriptors, keywords, every handle until it is freed) may be shared freely. The
+ * process-wide settings are atomic through their functions (zelSetMapState, zelSetVHDLMode and those that ask); do not
+ * read ZEL_VHDL_TYPE itself while another thread sets it. They are first taken from the environment by getenv, so set
+ * environment variables before any thread maps.
  */
 #ifndef ZEL_H
 #define ZEL_H
@@ -106,7 +108,7 @@ enum {
   ZEL_MAP_VHDL = 2,    /* VHDL compatibility */
   ZEL_MAP_DEFAULT = 3, /* the default mapping */
   ZEL_MAP_TANDEM = 4,  /* TANDEM compatibility */
-  ZEL_MAP_MATCH = 5    /* writers keep the case of every Ident */
+  ZEL_MAP_MATCH = 5    /* writers keep the case of 'I' Idents, too, where their space tells case apart */
 };
 
 /* The mapping state of the process, determined from the environment first when it is ZEL_MAP_UNSET or
@@ -121,10 +123,11 @@ ZEL_API void zelSetMapState(int32_t value) ZEL_NOEXCEPT;
  *
  * An Ident is a marker letter and a body of 1 to 2047 characters:
  *   'S'  case-sensitive, case kept by every writer;
- *   'I'  case-insensitive, written in lower case (in the mapping state MATCH as it stands);
+ *   'I'  case-insensitive; written in lower case where the space tells case apart (in the mapping state MATCH as it
+ *        stands), as it stands where it does not (basic VHDL, Vellum and LibraryNT names);
  *   'F'  forced case-sensitive, as 'S', with precedence over MATCH in some spaces.
- * In the body "#" and two hex digits may stand for a character that a space cannot hold; a '#' without two digits, or
- * with "00", is a plain '#'.
+ * The body is plain text. What a space cannot hold, its names write as "#" and two hex digits; a '#' of the body that
+ * would read back as such an escape is itself written "#23".
  */
 typedef char *(*zelNameToIdentFunc)(const char *name, zelAllocFunc alloc, void *context);
 typedef char *(*zelIdentToNameFunc)(const char *ident, zelAllocFunc alloc, void *context);
@@ -526,17 +529,18 @@ ZEL_API extern const zelHandle zelLefHandle;
 /* The handle of the space that spaceName selects (as zelGetSpaceByName does). The low byte of each of the four
  * characters counts, 0 keeps the default. Where the format fixes its characters they are ignored and the built-in
  * handle returned; where a file may redefine them (GCF, SDF, SPF, SPEF, DEF, LEF; FlatTessel its brackets) other
- * characters give a new handle, to be released with zelFreeHandle. So does a name with 'L' of more than three
- * characters ("Library"), for which LEF stands in. Null for a space without path form, or with ENOMEM. */
+ * characters give a new handle, to be released with zelFreeHandle. So does a name of more than three characters that
+ * begins with 'L' ("Library"), for which LEF stands in. Null for a space without path form, or with ENOMEM. */
 ZEL_API zelHandle zelGetHandle(const char *spaceName, uint32_t pinDelimiter, uint32_t divider, uint32_t busOpen,
                                uint32_t busClose) ZEL_NOEXCEPT;
 
-/* Always a new handle, for a space whose characters a file may redefine (LEF for every name with 'L'); null for any
- * other, or with ENOMEM. */
+/* Always a new handle, for a space whose characters a file may redefine (LEF for every name that begins with 'L'); null
+ * for any other, or with ENOMEM. */
 ZEL_API zelHandle zelAllocHandle(const char *spaceName, uint32_t pinDelimiter, uint32_t divider, uint32_t busOpen,
                                  uint32_t busClose) ZEL_NOEXCEPT;
 
-/* Frees a handle made by zelAllocHandle (also through zelGetHandle); ignores null and the built-in ones. */
+/* Frees a handle made by zelAllocHandle (also through zelGetHandle), which no path that was parsed with it must
+ * outlive; ignores null and the built-in ones. */
 ZEL_API void zelFreeHandle(zelHandle handle) ZEL_NOEXCEPT;
 
 /* Stores the default characters of a space where the pointers are non-null and returns 1; 0 when the space has no
@@ -555,7 +559,8 @@ enum {
 
 /* Parses text with the parser of fromHandle and prints it with the printer of toHandle under the ZEL_PRINT_ flags.
  * A null handle is looked up by the name beside it. Null when text is null or does not parse, or its printed form has
- * more than 2047 characters (EINVAL), or when a name without handle stands for a null handle (EINVAL), or ENOMEM. */
+ * more than 2047 characters (EINVAL), or when a name without handle stands for a null handle (EINVAL), or ENOMEM. The
+ * result of zelPathMapper comes from malloc. */
 ZEL_API char *zelPathMapper(const char *text, zelHandle fromHandle, zelHandle toHandle, uint32_t flags,
                             const char *fromName, const char *toName) ZEL_NOEXCEPT;
 ZEL_API char *zelPathMapperEx(const char *text, zelHandle fromHandle, zelHandle toHandle, uint32_t flags,
@@ -565,9 +570,9 @@ ZEL_API char *zelPathMapperEx(const char *text, zelHandle fromHandle, zelHandle 
  * Paths
  *
  * A path is one hierarchical name as a stream of items. It owns its Idents unless they were added as borrowed, and
- * points into the text that it was parsed from, which must outlive it. Numbers of items lie between ZEL_MIN_NUMBER
- * and ZEL_MAX_NUMBER. A function that cannot add to a path (no memory, ENOMEM; number out of range, EINVAL) sets
- * its error flag and leaves it whole.
+ * points into the text and to the handle that it was parsed with, which must outlive it. Numbers of items lie between
+ * ZEL_MIN_NUMBER and ZEL_MAX_NUMBER. A function that cannot add to a path (no memory, ENOMEM; number out of range,
+ * EINVAL) sets its error flag and leaves it whole.
  */
 typedef struct zelPathRecord *zelPath;
 
@@ -698,9 +703,9 @@ ZEL_API char *zelStrToIdent(zelPath chunk, uint32_t position) ZEL_NOEXCEPT;
  *
  * zelPathTo<X>(path, handle, flags) and zelPathTo<X>Ex(..., alloc, context): the path in the syntax of the space,
  * under the ZEL_PRINT_ flags. An Ident that the space cannot write is left out, an item that it cannot write appears as
- * "!ERROR!". A null path and one without items print as "". EINVAL for a text of 2048 characters or more, ENOMEM.
- * A bracketed index list that the flags leave unexpanded where the others are (possible only in ORKA with
- * ZEL_PRINT_NOREPEAT, or in a path cut by hand) ends the process.
+ * "!ERROR!". The short form takes its result from malloc. A null path and one without items print as "". EINVAL for a
+ * text of 2048 characters or more, ENOMEM. A bracketed index list that the flags leave unexpanded where the others are
+ * (possible only in ORKA with ZEL_PRINT_NOREPEAT, or in a path cut by hand) ends the process.
  */
 ZEL_API zelPath zelParseVerilog(const char *text, zelHandle handle, zelAllocFunc alloc, void *context) ZEL_NOEXCEPT;
 ZEL_API zelPath zelParseVerilogAMS(const char *text, zelHandle handle, zelAllocFunc alloc, void *context) ZEL_NOEXCEPT;

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # check.sh CHECK SOURCE WORK GENERATOR CC CXX...: runs CHECK.sh, beside this, in WORK/CHECK, which is made anew. The
 # check "copy" installs SOURCE in WORK/copy/prefix for the others.
-set -eu
+set -euo pipefail
 source=$2 work=$3/$1 prefix=$3/copy/prefix generator=$4
 export CC=$5 CXX=$6 LC_ALL=C PKG_CONFIG_PATH=$prefix/lib/pkgconfig
 checks=$source/tests/install

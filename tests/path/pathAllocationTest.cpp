@@ -93,7 +93,8 @@ TEST_P(PathAllocation, PrintingAndMapping) {
         };
         failEach(parseAndPrint, [&](char *result) {
           EXPECT_EQ(take(result), failures != 0 ? Result() : whole) << sample.text << " in " << target;
-          memory.live = 0;
+          EXPECT_EQ(memory.live, result != nullptr && alloc != nullptr ? 1 : 0);
+          memory.live = 0; // take() released it
         });
       }
 }

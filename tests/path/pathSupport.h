@@ -25,8 +25,8 @@ struct Release {
 using Path = std::unique_ptr<zelPathRecord, Release>;
 using Handle = std::unique_ptr<const zelHandleRecord, Release>;
 
-// "Sdf", or "Sdf.<>" with a divider and bus brackets of one's own: what parses and prints there, and the handle (null
-// for the separators that the space has).
+// "Sdf", or "Sdf.<>" with a divider (one of ". : 1 x \\") and bus brackets of one's own: what parses and prints there,
+// and the handle (null for the separators that the space has).
 struct PathSpace {
   zeli::PathParser parse;
   zeli::PathPrinter print;
@@ -102,6 +102,7 @@ inline std::string flagsOf(zelPath path) {
   static constexpr int reported[12] = {ZEL_PATH_ERROR,     ZEL_PATH_HIERARCHY, ZEL_PATH_INDEX,
                                        ZEL_PATH_RANGE,     ZEL_PATH_COMPLEX,   ZEL_PATH_MID_INDEX,
                                        ZEL_PATH_MID_RANGE, ZEL_PATH_REPEAT,    ZEL_PATH_LIST};
+  // Without complex indexes, lists and repeats; without lists and repeats.
   int expected = (path->flags & 0x390) == 0 ? ZEL_PATH_SINGLE_VERILOG | ZEL_PATH_SINGLE_VHDL : 0;
   expected |= (path->flags & 0x180) == 0 ? ZEL_PATH_SINGLE_ORKA : 0;
   std::string text;

@@ -18,7 +18,10 @@ std::vector<std::string> mapAll(std::size_t caller) {
   for (const char *const *from = zelGetAllSpaceNames(); *from != nullptr; ++from)
     for (const char *const *to = zelGetAllSpaceNames(); *to != nullptr; ++to)
       keep(zelMapName(*from, *to, names[results.size() % names.size()].c_str(), zelAllocRing, &ring));
-  for (const auto &[space, write] : {std::pair("Sdf", &zelIdentToSdfWithHandle), {"Lef", &zelIdentToLefWithHandle}}) {
+  for (const auto &[space, write] : {std::pair("Sdf", &zelIdentToSdfWithHandle),
+                                     {"Gcf", &zelGcfToIdentWithHandle},
+                                     {"Spef", &zelIdentToSpefWithHandle},
+                                     {"Lef", &zelLefToIdentWithHandle}}) {
     const Handle handle(zelGetHandle(space, 0, separator, '(', ')'));
     for (const std::string &ident : split("Stop IReg Sa/b Sa.b[3] Ix:y S#2341 Sa%20b F_\\ Sa|b<1> Sq{}"))
       keep(write(ident.c_str(), zelAllocRing, &ring, handle.get()));
