@@ -29,7 +29,7 @@ expect() {
 # consumes PROGRAM...: it is one of the examples, and does what it says.
 consumes() {
     local last
-    last=$(echo clk | "$@" | tail -n 1) || fail "failed: $*"
+    last=$("$@" <<<clk | tail -n 1) || fail "failed: $*"
     case $last in
     $'clk\tclk' | 'bits  :top:\u1/Pad\:data(3),'*) ;;
     *) fail "$* prints at last: $last" ;;
