@@ -10,7 +10,7 @@ int main(void) {
   while (fgets(line, sizeof line, stdin) != NULL) {
     char name[ZEL_MAX_NAME + 1]; /* the caller's buffer: nothing to free */
     const size_t length = strcspn(line, "\n");
-    int rest = line[length];
+    int rest = (unsigned char)line[length];
     line[length] = '\0';
     while (length > ZEL_MAX_NAME && rest != '\n' && rest != EOF)
       rest = getchar(); /* of a line that is too long for a name */

@@ -26,15 +26,22 @@ constexpr void (*adders[])(zelPath path, const char *ident, const int32_t *numbe
     [](zelPath path, const char *s, const int32_t *n) { zelPathAddLib(path, s, nullptr, n[0] < 0 ? s : nullptr, 1); },
 };
 
-// Adds an item and returns its kind.
-int add(FuzzedDataProvider &input, zelPath path) {
+// Adds an item and returns what the walk is to read of it.
+Item add(FuzzedDataProvider &input, zelPath path) {
   const int kind = input.ConsumeIntegralInRange<int>(ZEL_ITEM_TOP_IDENT, ZEL_ITEM_LIST_END + 1);
-  int32_t numbers[3];
-  for (int32_t &number : numbers)
+  int32_t n[3];
+  for (int32_t &number : n)
     number = input.ConsumeBool() ? input.ConsumeIntegral<int8_t>()
                                  : input.ConsumeIntegralInRange<int32_t>(ZEL_MIN_NUMBER - 2, ZEL_MAX_NUMBER + 2);
-  adders[kind](path, input.PickValueInArray({"Stop", "Iu_core", "SA b", "F#23x", "I"}), numbers);
-  return kind <= ZEL_ITEM_LIST_END ? kind : ZEL_ITEM_LIB;
+  adders[kind](path, input.PickValueInArray({"Stop", "Iu_core", "SA b", "F#23x", "I"}), n);
+  Item item = {kind <= ZEL_ITEM_LIST_END ? kind : ZEL_ITEM_LIB, {-1, -1, -1, -1, -1, -1, 0}, false};
+  if (kind == ZEL_ITEM_INDEX || kind == ZEL_ITEM_REPEAT)
+    item.numbers[kind == ZEL_ITEM_INDEX ? 0 : 1] = n[0];
+  if (kind == ZEL_ITEM_RANGE || kind == ZEL_ITEM_STEP_RANGE)
+    std::copy(n, n + 2, &item.numbers[2]);
+  if (kind == ZEL_ITEM_STEP_RANGE)
+    std::copy(n, n + 3, &item.numbers[4]);
+  return item;
 }
 
 } // namespace
@@ -42,7 +49,7 @@ int add(FuzzedDataProvider &input, zelPath path) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
   FuzzedDataProvider input(data, size);
   const zelPath path = zelCreatePath(allocate, nullptr);
-  std::vector<int> added;
+  std::vector<Item> added;
   bool isCut = false;
   while (input.remaining_bytes() != 0) {
     const int call = input.ConsumeIntegralInRange<int>(0, 9);
@@ -61,9 +68,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
   }
   const std::vector<Item> found = walk(path);
   if (!isCut && (zelPathGetFlag(path) & ZEL_PATH_ERROR) == 0) // as by a number out of range
-    require(std::equal(found.begin(), found.end(), added.begin(), added.end(),
-                       [](const Item &item, int kind) { return item.kind == kind; }),
-            "the walk finds what was added");
+    require(found == added, "the walk finds what was added");
   zelFreePath(path, release, nullptr);
   require(given.empty(), "all memory is returned");
   return 0;
