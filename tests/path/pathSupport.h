@@ -1,5 +1,5 @@
 // What the path tests share: a path as one readable string, in both directions, tables of such strings, and owners of
-// paths, handles and counted memory. Spaces go by their names.
+// paths and handles. Spaces go by their names, the sources in the order of their language codes, from 1.
 #ifndef PATH_SUPPORT_H
 #define PATH_SUPPORT_H
 
@@ -25,7 +25,7 @@ struct Release {
 using Path = std::unique_ptr<zelPathRecord, Release>;
 using Handle = std::unique_ptr<const zelHandleRecord, Release>;
 
-// "Sdf", or "Sdf.<>" with a divider (one of ". : 1 x \\") and bus brackets of one's own: what parses and prints there,
+// "Sdf", or "Sdf.<>" with a divider (one of . : 1 x \) and bus brackets of one's own: what parses and prints there,
 // and the handle (null for the separators that the space has).
 struct PathSpace {
   zeli::PathParser parse;

@@ -18,13 +18,13 @@ std::vector<std::string> mapAll(std::size_t caller) {
   for (const char *const *from = zelGetAllSpaceNames(); *from != nullptr; ++from)
     for (const char *const *to = zelGetAllSpaceNames(); *to != nullptr; ++to)
       keep(zelMapName(*from, *to, names[results.size() % names.size()].c_str(), zelAllocRing, &ring));
-  for (const auto &[space, write] : {std::pair("Sdf", &zelIdentToSdfWithHandle),
-                                     {"Gcf", &zelGcfToIdentWithHandle},
-                                     {"Spef", &zelIdentToSpefWithHandle},
-                                     {"Lef", &zelLefToIdentWithHandle}}) {
+  for (const auto &[space, convertName] : {std::pair("Sdf", &zelIdentToSdfWithHandle),
+                                           {"Gcf", &zelGcfToIdentWithHandle},
+                                           {"Spef", &zelIdentToSpefWithHandle},
+                                           {"Lef", &zelLefToIdentWithHandle}}) {
     const Handle handle(zelGetHandle(space, 0, separator, '(', ')'));
     for (const std::string &ident : split("Stop IReg Sa/b Sa.b[3] Ix:y S#2341 Sa%20b F_\\ Sa|b<1> Sq{}"))
-      keep(write(ident.c_str(), zelAllocRing, &ring, handle.get()));
+      keep(convertName(ident.c_str(), zelAllocRing, &ring, handle.get()));
     for (const std::string &path : split(R"(top.u1.d[3:0] {2{a,b}} a[1:0].b[5:4] \u/1␣.x m.n[7])"))
       for (const std::uint32_t flags : {0U, 1U, 8U, 31U})
         keep(zelPathMapperEx(path.c_str(), nullptr, handle.get(), flags, "Verilog", nullptr, zelAllocRing, &ring));

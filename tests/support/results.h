@@ -1,4 +1,4 @@
-// Results under the allocator convention: malloc'ed ones with an owner, and an allocator that keeps count.
+// Results under the allocator convention, from every kind of memory and without any.
 #ifndef SUPPORT_RESULTS_H
 #define SUPPORT_RESULTS_H
 
