@@ -55,7 +55,8 @@ TEST(HexEscape, protectsTheMarkInFrontOfWhatWouldBeDecoded) {
         const std::string behind = spelt(row[0], marking);
         const std::string start = marking.start;
         const std::string body = start.back() + behind;
-        const std::string written = start + (row[1] == "escaped" ? marking.mark : "") + behind + marking.end;
+        std::string written = row[1] == "escaped" ? start + marking.mark : start;
+        written.append(behind).append(marking.end);
         row.expect(written, convert(spaceOf(space)->identToName, ("Sa" + body).c_str()), space);
         row.expect("Ia" + body, convert(spaceOf(space)->nameToIdent, written.c_str()), space);
       }

@@ -14,7 +14,7 @@ inline std::vector<std::string> namesOfEveryHabit() {
       a clk_2 Sa Iclk_2 Data IData FData SESC_a ESC_a module Smodule signal Isignal model Imodel KEYWORD_model con %%con
       a$b S$a 1abc S1abc 2n3904 a__b Sa__b a_ Sa_ \a+b␣ \A+b␣ \a␣b\ \A\ a\.b a\[3\] 'a:b' a.b a/b a|b a[3] a(3) a<3> (3)
       a#23 Sa#2320 #2320 Sa%41 a%41 %41 Sa#41 a#41 é Sé aé Sa␣b Sa\b a\ \ "" S)");
-  for (const std::size_t length : {ZEL_MAX_NAME, ZEL_MAX_NAME + 1})
+  for (const std::size_t length : {std::size_t{ZEL_MAX_NAME}, std::size_t{ZEL_MAX_NAME} + 1})
     for (const char *marker : {"", "S", "I"})
       for (const char c : {'a', 'A', '\xe9'})
         names.push_back(marker + std::string(length, c));

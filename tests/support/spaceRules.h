@@ -35,7 +35,8 @@ inline void expectRules(const char *file, int line, const char *table) {
     for (const std::string &space : wordsOf(row.heading))
       for (const auto &[name, value] : mapStates)
         if (const MapState state(value); holdsIn(name, row))
-          row.expect(row[isConversion ? 2 : 0], appliedTo(space, row), space + ", state " + name);
+          row.expect(row[isConversion ? 2 : 0], appliedTo(space, row),
+                     std::string(space).append(", state ").append(name));
   }
 }
 
