@@ -6,8 +6,9 @@
 
 namespace zeli {
 
-constexpr ExtendedIdentifierSpace vhdlFamily(bool (*isKeyword)(Bytes word)) {
-  return {letter, letter | digit | chars("_"), {'#', graphic | chars(" ")}, isKeyword};
+constexpr ExtendedIdentifierRules vhdlFamily(bool (*isKeyword)(Bytes word)) {
+  constexpr HexEscape escape = {'#', graphic | chars(" ")};
+  return {letter, wordChar, escape, spellingExtended(escape), isKeyword};
 }
 
 } // namespace zeli

@@ -1,9 +1,10 @@
 // The handles: each path-capable space's separators, parser and printer.
 #include "core/handle.h"
-#include "core/registry.h"
+#include "spaces/spaces.h"
 
 #include <cerrno>
 #include <cstdlib>
+#include <new>
 
 using namespace zeli;
 
@@ -18,31 +19,31 @@ struct BuiltIn {
   VarBits varBits;
   zelHandleRecord handle;
 
-  constexpr BuiltIn(SpaceId id, Redefines what, const char *name, PathParser parse, PathPrinter print,
-                    Separators separators)
-      : space(id),
-        redefines(what), varBits{name, parse, print, separators}, handle{builtInHandle, &varBits, separators} {}
+  constexpr BuiltIn(SpaceId id, Redefines what, const Operations *names, const char *name, PathParser parse,
+                    PathPrinter print, Separators separators)
+      : space(id), redefines(what), varBits{name, parse, print, separators}, handle{builtInHandle, &varBits, separators,
+                                                                                    names, nullptr} {}
 };
 
 // Verilog-AMS keeps the separators of its netlists although it prints as Verilog; VHDL-87 goes by the name of VHDL.
 // clang-format off
-constexpr BuiltIn verilog(SpaceId::Verilog, Redefines::nothing, "Verilog", zelParseVerilog, zelPathToVerilogEx, {'.', '.', '[', ']'});
-constexpr BuiltIn verilogAMS(SpaceId::VerilogAMS, Redefines::nothing, "VerilogAMS", zelParseVerilogAMS, zelPathToVerilogEx, {'/', '/', '<', '>'});
-constexpr BuiltIn vhdl(SpaceId::VHDL, Redefines::nothing, "VHDL", zelParseVHDL, zelPathToVHDLEx, {':', ':', '(', ')'});
-constexpr BuiltIn vhdl87(SpaceId::VHDL87, Redefines::nothing, "VHDL", zelParseVHDL87, zelPathToVHDLEx, {':', ':', '(', ')'});
-constexpr BuiltIn vhdlAMS(SpaceId::VHDLAMS, Redefines::nothing, "VHDLAMS", zelParseVHDLAMS, zelPathToVHDLEx, {':', ':', '(', ')'});
-constexpr BuiltIn orka(SpaceId::ORKA, Redefines::nothing, "ORKA", zelParseORKA, zelPathToORKAEx, {'/', '/', '<', '>'});
-constexpr BuiltIn kirra(SpaceId::Kirra, Redefines::nothing, "Kirra", zelParseKirra, zelPathToKirraEx, {'/', '/', '[', ']'});
-constexpr BuiltIn kirraHDL(SpaceId::KirraHDL, Redefines::nothing, "KirraHDL", zelParseKirraHDL, zelPathToKirraHDLEx, {'/', '/', '[', ']'});
-constexpr BuiltIn spice(SpaceId::Spice, Redefines::nothing, "Spice", zelParseSpice, zelPathToSpiceEx, {'/', '/', '[', ']'});
-constexpr BuiltIn tessel(SpaceId::Tessel, Redefines::nothing, "Tessel", zelParseTessel, zelPathToTesselEx, {'|', '|', '[', ']'});
-constexpr BuiltIn flatTessel(SpaceId::FlatTessel, Redefines::busBrackets, "FlatTessel", zelParseFlatTessel, zelPathToFlatTesselEx, {'\0', '\0', '[', ']'});
-constexpr BuiltIn sdf(SpaceId::Sdf, Redefines::everything, "Sdf", zelParseSdf, zelPathToSdfEx, {'/', '/', '[', ']'});
-constexpr BuiltIn spf(SpaceId::Spf, Redefines::everything, "Spf", zelParseSpf, zelPathToSpfEx, {':', '/', '[', ']'});
-constexpr BuiltIn spef(SpaceId::Spef, Redefines::everything, "Spef", zelParseSpef, zelPathToSpefEx, {'/', '/', '[', ']'});
-constexpr BuiltIn gcf(SpaceId::Gcf, Redefines::everything, "GCF", zelParseGcf, zelPathToGcfEx, {'.', '.', '<', '>'});
-constexpr BuiltIn lef(SpaceId::Lef, Redefines::everything, "Lef", zelParseLef, zelPathToLefEx, {'/', '/', '[', ']'});
-constexpr BuiltIn def(SpaceId::Def, Redefines::everything, "DEF", zelParseDef, zelPathToDefEx, {'/', '/', '[', ']'});
+constexpr BuiltIn verilog(SpaceId::Verilog, Redefines::nothing, &verilogNames, "Verilog", zelParseVerilog, zelPathToVerilogEx, {'.', '.', '[', ']'});
+constexpr BuiltIn verilogAMS(SpaceId::VerilogAMS, Redefines::nothing, &verilogAMSNames, "VerilogAMS", zelParseVerilogAMS, zelPathToVerilogEx, {'/', '/', '<', '>'});
+constexpr BuiltIn vhdl(SpaceId::VHDL, Redefines::nothing, &vhdlNames, "VHDL", zelParseVHDL, zelPathToVHDLEx, {':', ':', '(', ')'});
+constexpr BuiltIn vhdl87(SpaceId::VHDL87, Redefines::nothing, &vhdl87Names, "VHDL", zelParseVHDL87, zelPathToVHDLEx, {':', ':', '(', ')'});
+constexpr BuiltIn vhdlAMS(SpaceId::VHDLAMS, Redefines::nothing, &vhdlAMSNames, "VHDLAMS", zelParseVHDLAMS, zelPathToVHDLEx, {':', ':', '(', ')'});
+constexpr BuiltIn orka(SpaceId::ORKA, Redefines::nothing, &orkaNames, "ORKA", zelParseORKA, zelPathToORKAEx, {'/', '/', '<', '>'});
+constexpr BuiltIn kirra(SpaceId::Kirra, Redefines::nothing, &kirraNames, "Kirra", zelParseKirra, zelPathToKirraEx, {'/', '/', '[', ']'});
+constexpr BuiltIn kirraHDL(SpaceId::KirraHDL, Redefines::nothing, &kirraHDLNames, "KirraHDL", zelParseKirraHDL, zelPathToKirraHDLEx, {'/', '/', '[', ']'});
+constexpr BuiltIn spice(SpaceId::Spice, Redefines::nothing, &spiceNames, "Spice", zelParseSpice, zelPathToSpiceEx, {'/', '/', '[', ']'});
+constexpr BuiltIn tessel(SpaceId::Tessel, Redefines::nothing, &tesselNames, "Tessel", zelParseTessel, zelPathToTesselEx, {'|', '|', '[', ']'});
+constexpr BuiltIn flatTessel(SpaceId::FlatTessel, Redefines::busBrackets, &flatTesselNames, "FlatTessel", zelParseFlatTessel, zelPathToFlatTesselEx, {'\0', '\0', '[', ']'});
+constexpr BuiltIn sdf(SpaceId::Sdf, Redefines::everything, &sdfNames, "Sdf", zelParseSdf, zelPathToSdfEx, {'/', '/', '[', ']'});
+constexpr BuiltIn spf(SpaceId::Spf, Redefines::everything, &spfNames, "Spf", zelParseSpf, zelPathToSpfEx, {':', '/', '[', ']'});
+constexpr BuiltIn spef(SpaceId::Spef, Redefines::everything, &spefNames, "Spef", zelParseSpef, zelPathToSpefEx, {'/', '/', '[', ']'});
+constexpr BuiltIn gcf(SpaceId::Gcf, Redefines::everything, &gcfNames, "GCF", zelParseGcf, zelPathToGcfEx, {'.', '.', '<', '>'});
+constexpr BuiltIn lef(SpaceId::Lef, Redefines::everything, &lefNames, "Lef", zelParseLef, zelPathToLefEx, {'/', '/', '[', ']'});
+constexpr BuiltIn def(SpaceId::Def, Redefines::everything, &defNames, "DEF", zelParseDef, zelPathToDefEx, {'/', '/', '[', ']'});
 // clang-format on
 
 constexpr const BuiltIn *builtIns[] = {&verilog, &verilogAMS, &vhdl,  &vhdl87, &vhdlAMS,    &orka,
@@ -130,13 +131,24 @@ zelHandle zelAllocHandle(const char *spaceName, std::uint32_t pinDelimiter, std:
   if (chosen.busClose == '\0')
     chosen.busClose = defaults.busClose;
 
-  auto *handle = static_cast<zelHandleRecord *>(std::malloc(sizeof(zelHandleRecord)));
-  if (handle == nullptr) {
+  // The rules of names lie behind the record.
+  const auto makeRules = builtIn->handle.names->rulesUnder;
+  struct Made {
+    zelHandleRecord record;
+    BackslashRules rules;
+  };
+  const std::size_t size = makeRules != nullptr ? sizeof(Made) : sizeof(zelHandleRecord);
+  void *memory = std::malloc(size);
+  if (memory == nullptr) {
     errno = ENOMEM;
     return nullptr;
   }
-  *handle = {madeHandle, &builtIn->varBits, chosen};
-  return handle;
+  const zelHandleRecord record = {madeHandle, &builtIn->varBits, chosen, builtIn->handle.names, nullptr};
+  if (makeRules == nullptr)
+    return new (memory) zelHandleRecord(record);
+  auto *made = new (memory) Made{record, makeRules(chosen)};
+  made->record.rules = &made->rules;
+  return &made->record;
 }
 
 void zelFreeHandle(zelHandle handle) noexcept {
