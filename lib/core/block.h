@@ -49,12 +49,10 @@ inline std::uint64_t headWord(const char *bytes, std::size_t size) {
 
 // Fewer than sixteen bytes, zeros behind them. Nothing outside them is read.
 inline Block loadPart(const char *bytes, std::size_t size) {
-  std::uint64_t words[2] = {headWord(bytes, size), 0};
-  if (size > 8)
-    words[1] = loadWord(bytes + size - 8) >> (8 * (16 - size));
-  Block block;
-  std::memcpy(&block, words, sizeof block);
-  return block;
+  // Put together in registers: a vector read from two stored words would wait for them.
+  using Words = std::uint64_t __attribute__((vector_size(blockBytes)));
+  const std::uint64_t tail = size > 8 ? loadWord(bytes + size - 8) >> (8 * (16 - size)) : 0;
+  return reinterpret_cast<Block>(Words{headWord(bytes, size), tail});
 }
 
 inline BlockTest isChar(Block block, char c) {

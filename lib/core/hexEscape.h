@@ -42,9 +42,6 @@ struct HexEscape {
     return behind != '\0' && (behind == mark || !literal.has(behind));
   }
 
-  // The trait of the names that may hold an escape.
-  constexpr std::uint8_t markTrait() const { return mark == '%' ? traitPercent : traitHash; }
-
   static constexpr char digitOf(int value) { return "0123456789abcdef"[value & 15]; }
 
   void put(Text &out, char c) const {
@@ -155,7 +152,7 @@ inline bool quotesNothing(Bytes, std::size_t) { return false; }
 // its own body.
 template <typename Quotes>
 Ident decodeIdent(Text &work, const Name &name, const HexEscape &escape, std::uint8_t quoteTrait, Quotes quotes) {
-  if (!name.has(escape.markTrait() | quoteTrait))
+  if (!name.has(static_cast<std::uint8_t>(traitMark | quoteTrait)))
     return identByCase(name);
   const bool copiedUpper = decode(work, name, escape, quotes);
   return {copiedUpper ? 'S' : 'I', Name(work.view())};

@@ -54,64 +54,76 @@ inline Bytes skipForce(Bytes s) { return isForce(s) ? from(s, force.size()) : s;
 // What the bytes of a name are, found in one pass. Most names are words (letters, digits, '_'), which nearly every
 // space takes as they are: whoever tests or writes one asks for that first and looks at single bytes only otherwise.
 enum Trait : std::uint8_t {
-  traitOther = 1, // bytes that no word has; like traitBackslash also set where this is not known
+  traitOther = 1, // bytes that no word has; like those of marks and backslashes also set where this is not known
   traitUpper = 2,
   traitTwoUnderscores = 4, // "__"
-  traitHash = 8,
-  traitPercent = 16,
-  traitBackslash = 32
+  traitMark = 8,           // '#' or '%'
+  traitBackslash = 16,
+  traitDigitFirst = 32,
+  traitUnderscoreFirst = 64,
+  traitUnderscoreLast = 128
 };
 
-inline std::uint8_t traitsOf(Bytes s) {
-  BlockTest other = {};
+struct Look {
+  std::uint8_t traits;
+  std::uint64_t head; // the first eight bytes, by which keywords are looked up
+};
+
+inline Look lookAt(Bytes s) {
+  BlockTest word = ~BlockTest{};
   BlockTest capital = {};
-  BlockTest hash = {};
-  BlockTest percent = {};
-  BlockTest backslash = {};
   std::uint32_t pairs = 0;
   std::uint32_t carried = 0; // the last underscore of the block before
   const auto look = [&](Block block) {
-    const BlockTest underscore = isChar(block, '_');
     const BlockTest isUpper = isWithin(block, 'A', 'Z');
-    other |= ~(isWithin(block | static_cast<unsigned char>(0x20), 'a', 'z') | isWithin(block, '0', '9') | underscore);
+    const BlockTest underscore = isChar(block, '_');
+    word &= isWithin(block, 'a', 'z') | isUpper | isWithin(block, '0', '9') | underscore;
     capital |= isUpper;
-    hash |= isChar(block, '#');
-    percent |= isChar(block, '%');
-    backslash |= isChar(block, '\\');
     const std::uint32_t bits = bitsOf(underscore);
     pairs |= bits & (bits << 1 | carried);
     carried = bits >> (blockBytes - 1);
   };
 
-  std::uint32_t used = 0xFFFF; // the bytes of a part that belong to the name
+  std::uint64_t head = 0;
+  std::uint32_t unused = 0; // bytes of a part that are not of the name
   if (s.size() < blockBytes) {
+    head = headWord(s.data(), s.size());
     look(loadPart(s.data(), s.size()));
-    used = (1U << s.size()) - 1;
+    unused = 0xFFFFU << s.size() & 0xFFFFU;
+    if (s.empty())
+      return {};
   } else {
+    head = loadWord(s.data());
+    const std::size_t last = s.size() - blockBytes;
     std::size_t i = 0;
-    for (; i + blockBytes <= s.size(); i += blockBytes)
+    for (; i < last; i += blockBytes)
       look(loadBlock(s.data() + i));
-    if (i < s.size()) {
+    if (i != last)
       carried = 0; // the last block begins before the boundary
-      look(loadBlock(s.data() + s.size() - blockBytes));
-    }
+    look(loadBlock(s.data() + last));
   }
-  const auto has = [](BlockTest test, Trait trait) { return bitsOf(test) != 0 ? trait : 0; };
-  const bool isOther = (bitsOf(other) & used) != 0;
-  return static_cast<std::uint8_t>((isOther ? traitOther : 0) | has(capital, traitUpper) | has(hash, traitHash) |
-                                   has(percent, traitPercent) | has(backslash, traitBackslash) |
-                                   (pairs != 0 ? traitTwoUnderscores : 0));
+
+  int traits = (bitsOf(capital) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0) |
+               (digit.has(s.front()) ? traitDigitFirst : 0) | (s.front() == '_' ? traitUnderscoreFirst : 0) |
+               (s.back() == '_' ? traitUnderscoreLast : 0);
+  if ((bitsOf(word) | unused) != 0xFFFF) {
+    traits |= traitOther;
+    for (const char c : s)
+      traits |= c == '\\' ? traitBackslash : c == '#' || c == '%' ? traitMark : 0;
+  }
+  return {static_cast<std::uint8_t>(traits), head};
 }
 
-// A name with its traits.
+// A name with what is known of it.
 struct Name : Bytes {
-  std::uint8_t traits = 0;
+  Look look = {};
 
   Name() = default;
-  explicit Name(Bytes bytes) : Bytes(bytes), traits(traitsOf(bytes)) {}
-  Name(Bytes bytes, std::uint8_t known) : Bytes(bytes), traits(known) {}
+  explicit Name(Bytes bytes) : Bytes(bytes), look(lookAt(bytes)) {}
+  Name(Bytes bytes, std::uint8_t traits) : Bytes(bytes), look{traits, headWord(bytes.data(), bytes.size())} {}
 
-  bool has(std::uint8_t wanted) const { return (traits & wanted) != 0; }
+  bool has(std::uint8_t wanted) const { return (look.traits & wanted) != 0; }
+  std::uint64_t head() const { return look.head; }
   bool isWord() const { return !has(traitOther); }
 };
 

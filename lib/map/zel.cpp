@@ -58,22 +58,27 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
   return result;
 }
 
-} // namespace
+// Whether a word is a name of both spaces as it stands. In the default mapping state only, which it must not determine.
+bool isPlain(const Name &name, const Operations &from, const Operations &to) {
+  constexpr std::uint64_t forceHead = 0x5F435345;                // "ESC_"
+  constexpr std::uint64_t keywordHead = 0x5F44524F5759454B;      // "KEYWORD_"
+  if (!name.isWord() || (name.head() & 0xFFFFFFFF) == forceHead || name.head() == keywordHead ||
+      zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
+    return false;
+  const bool isSensitive = from.plainWords.readAs == 'S' || (from.plainWords.readAs == '\0' && name.has(traitUpper));
+  const auto isAs = [&name](const Operations &space, std::uint8_t unless) {
+    return !name.has(unless) && (space.plainWords.isKeyword == nullptr || !space.plainWords.isKeyword(name)) &&
+           (space.currentHandle == nullptr || space.currentHandle() == nullptr);
+  };
+  return isAs(from, from.plainWords.notRead) &&
+         isAs(to, isSensitive ? to.plainWords.notWrittenSensitive : to.plainWords.notWrittenInsensitive);
+}
 
-char *zelMapName(const char *fromName, const char *toName, const char *name, zelAllocFunc alloc,
-                 void *context) noexcept {
-  const SpaceId fromId = recognise(fromName);
-  const SpaceId toId = recognise(toName);
-  if (fromId == SpaceId::none || toId == SpaceId::none)
-    return nullptr;
-  const Space &from = spaceOf(fromId);
-  const Space &to = spaceOf(toId);
-  if (fromId == SpaceId::Ident)
-    return to.descriptor.identToName(name, alloc, context);
-
+// By way of the Ident.
+char *mapGeneral(const Name &given, const Space &from, const Space &to, zelAllocFunc alloc, void *context) {
   Text readWork;
-  const Ident ident = from.names->read(Name(nameBytes(name)), {}, readWork);
-  if (toId == SpaceId::Ident && ident.body.data() != nullptr)
+  const Ident ident = from.names->read(given, {}, readWork);
+  if (to.id == SpaceId::Ident && ident.body.data() != nullptr)
     return makeIdent(ident, alloc, context, maxName - 1); // the marker counts
   if (!isNameLength(ident.body))
     return makeString(refuse(), alloc, context);
@@ -88,6 +93,24 @@ char *zelMapName(const char *fromName, const char *toName, const char *name, zel
   return makeString(spelled, alloc, context);
 }
 
+} // namespace
+
+char *zelMapName(const char *fromName, const char *toName, const char *name, zelAllocFunc alloc,
+                 void *context) noexcept {
+  const SpaceId fromId = recognise(fromName);
+  const SpaceId toId = recognise(toName);
+  if (fromId == SpaceId::none || toId == SpaceId::none)
+    return nullptr;
+  const Space &from = spaceOf(fromId);
+  const Space &to = spaceOf(toId);
+  if (fromId == SpaceId::Ident)
+    return to.descriptor.identToName(name, alloc, context);
+
+  const Name given(nameBytes(name));
+  if (alloc == nullptr && toId != SpaceId::Ident && isNameLength(given) && isPlain(given, *from.names, *to.names))
+    return makeString(given, alloc, context);
+  return mapGeneral(given, from, to, alloc, context);
+}
 char *zelMapper(zelNameToIdentFunc nameToIdent, zelIdentToNameFunc identToName, const char *name, zelAllocFunc alloc,
                 void *context) noexcept {
   if (nameToIdent == nullptr || identToName == nullptr)

@@ -25,6 +25,8 @@ struct BackslashRules {
         takesWords = false;
   }
 
+  static constexpr PlainWords plainWords() { return anyWord; }
+
   // Whether the byte at i is a backslash that only quotes the byte behind it.
   bool quotes(Bytes name, std::size_t i) const {
     return name[i] == '\\' && i + 1 < name.size() && escapable.has(name[i + 1]);

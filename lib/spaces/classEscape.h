@@ -11,6 +11,8 @@ struct ClassEscapeRules {
   HexEscape escape; // its literal bytes are the class
   Spelling spelling;
 
+  static constexpr PlainWords plainWords() { return anyWord; }
+
   bool isLegal(const Name &name) const;
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
   Ident read(const Name &name, const Setting &setting, Text &work) const;

@@ -49,7 +49,7 @@ static_assert(keywords.words() == 151);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(Bytes word) { return keywordTable.hasFolded(word); }
+bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
 
 constexpr BackslashRules rulesUnder(const Separators &separators) {
   return layoutFamily(layoutChar, chars({separators.pinDelimiter, separators.busOpen, separators.busClose}));

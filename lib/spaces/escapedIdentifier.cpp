@@ -28,7 +28,7 @@ Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, 
     if (!folds)
       return ident.body;
     copyLowered(work, ident.body);
-    if (!isKeyword(work.view()))
+    if (!isKeyword(Name(work.view())))
       return work.view();
     work.size = 0;
   }
@@ -47,7 +47,7 @@ Ident EscapedIdentifierRules::read(const Name &name, const Setting &, Text &work
     return {'S', name};
   if (!isEscaped(name))
     return refuseIdent();
-  return decodeIdent(work, {content(name), name.traits}, escape, 0, quotesNothing);
+  return decodeIdent(work, {content(name), name.look.traits}, escape, 0, quotesNothing);
 }
 
 } // namespace zeli

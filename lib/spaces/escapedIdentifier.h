@@ -13,7 +13,11 @@ struct EscapedIdentifierRules {
   ByteSet normal;
   HexEscape escape; // its literal bytes are the ones that may stand in an escaped identifier
   Spelling spelling;
-  bool (*isKeyword)(Bytes word);
+  bool (*isKeyword)(const Name &word);
+
+  constexpr PlainWords plainWords() const {
+    return {traitDigitFirst, traitDigitFirst, traitDigitFirst | traitUpper, 'S', isKeyword};
+  }
 
   bool isNormal(const Name &name) const;
   bool isLegal(const Name &name) const;
@@ -22,7 +26,7 @@ struct EscapedIdentifierRules {
 };
 
 constexpr EscapedIdentifierRules escapedIdentifierRules(const ByteSet &first, const ByteSet &normal,
-                                                        bool (*isKeyword)(Bytes word)) {
+                                                        bool (*isKeyword)(const Name &word)) {
   constexpr HexEscape escape = {'#', graphic};
   return {first, normal, escape, Spelling(escape, graphic), isKeyword};
 }

@@ -44,7 +44,12 @@ struct ExtendedIdentifierRules {
   ByteSet normal;
   HexEscape escape; // its literal bytes are the ones that may stand in an extended identifier
   Spelling spelling;
-  bool (*isKeyword)(Bytes word);
+  bool (*isKeyword)(const Name &word);
+
+  constexpr PlainWords plainWords() const {
+    constexpr std::uint8_t never = traitDigitFirst | traitUnderscoreFirst | traitUnderscoreLast | traitTwoUnderscores;
+    return {never, never | traitUpper, never, 'I', isKeyword};
+  }
 
   bool isNormal(const Name &name) const;
   bool isLegal(const Name &name) const;

@@ -18,6 +18,9 @@ int compareBodies(const char *a, bool foldA, const char *b, bool foldB) {
 bool isMarker(char c) { return c == 'S' || c == 'I' || c == 'F'; }
 
 struct IdentRules {
+  // Never: the marker tells.
+  static constexpr PlainWords plainWords() { return {traitOther, traitOther, traitOther, 'S'}; }
+
   bool isLegal(const Name &name) const { return name.size() > 1 && isMarker(name[0]); }
 
   Ident read(const Name &name, const Setting &, Text &) const {

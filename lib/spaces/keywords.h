@@ -71,10 +71,10 @@ public:
   }
 
   // As stored.
-  bool has(Bytes word) const { return find<false>(word, headWord(word.data(), word.size())); }
+  bool has(const Name &word) const { return find<false>(word, word.head()); }
 
   // In any case.
-  bool hasFolded(Bytes word) const { return find<true>(word, lowered(headWord(word.data(), word.size()))); }
+  bool hasFolded(const Name &word) const { return find<true>(word, lowered(word.head())); }
 
 private:
   static constexpr std::size_t headBytes = 8;

@@ -36,7 +36,7 @@ static_assert(keywords.words() == 55);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(Bytes word) { return keywordTable.has(word); }
+bool isKeyword(const Name &word) { return keywordTable.has(word); }
 
 constexpr ByteSet first = letter | chars("_");
 constexpr ByteSet nonFirst = wordChar | chars("!");
@@ -45,7 +45,7 @@ constexpr Bytes keywordPrefix = "KEYWORD_";
 // Whether name must not stand without a prefix, or without one more: a keyword behind at most two prefixes.
 bool needsPrefix(Bytes name) {
   for (int prefixes = 0; prefixes <= 2; ++prefixes) {
-    if (isKeyword(name))
+    if (keywordTable.has(Name(name)))
       return true;
     if (!startsWith(name, keywordPrefix))
       return false;
@@ -56,7 +56,7 @@ bool needsPrefix(Bytes name) {
 
 // Digits only, or digits, letters and digits as in 2n3904; a backslash hides the byte behind it from this rule.
 bool isDigitStartName(Bytes name) {
-  if (name.empty() || isKeyword(name))
+  if (name.empty() || isKeyword(Name(name)))
     return false;
   if (allOf(name, digit))
     return true;
@@ -89,6 +89,10 @@ bool isDigitStartName(Bytes name) {
 }
 
 struct KirraRules : BackslashRules {
+  static constexpr PlainWords plainWords() {
+    return {0, traitDigitFirst, traitDigitFirst | traitUpper, '\0', isKeyword};
+  }
+
   bool isLegal(const Name &name) const {
     if (!isNameLength(name) || isKeyword(name))
       return false;

@@ -52,7 +52,7 @@ static_assert(keywords.words() == 161);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(Bytes word) { return keywordTable.has(word); }
+bool isKeyword(const Name &word) { return keywordTable.has(word); }
 
 constexpr EscapedIdentifierRules rules = escapedIdentifierRules(letter | chars("_"), wordChar, isKeyword);
 

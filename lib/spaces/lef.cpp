@@ -68,7 +68,7 @@ static_assert(keywords.words() == 264);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(Bytes word) { return keywordTable.hasFolded(word); }
+bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
 
 // Other than in DEF, the divider is escaped instead of the pin delimiter, and a separator never stands plain.
 constexpr BackslashRules rulesUnder(const Separators &separators) {

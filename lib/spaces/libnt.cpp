@@ -32,7 +32,11 @@ bool quotesLetter(Bytes name, std::size_t i) {
 
 constexpr Spelling quotedCapitals = Spelling(fileNameEscape, fileNameChar, upper, '%');
 
+bool isDevice(const Name &word) { return isReserved(word); }
+
 struct LibraryNTRules : ClassEscapeRules {
+  static constexpr PlainWords plainWords() { return {0, traitUpper, 0, 'I', isDevice}; }
+
   bool isLegal(const Name &name) const {
     if (!isNameLength(name) || isReserved(name))
       return false;
@@ -70,7 +74,7 @@ struct LibraryNTRules : ClassEscapeRules {
       return refuseIdent();
     if (startsWith(name, reservedPrefix))
       return {'I', Name(from(name, reservedPrefix.size()))};
-    if (!name.has(traitPercent)) {
+    if (name.find('%') == Bytes::npos) {
       const Ident ident = decodeIdent(work, name, escape, 0, quotesNothing);
       return {'I', ident.body};
     }

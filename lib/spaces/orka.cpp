@@ -25,6 +25,8 @@ struct ORKARules {
   HexEscape escape;
   Spelling spelling;
 
+  static constexpr PlainWords plainWords() { return anyWord; }
+
   bool isLegal(const Name &name) const {
     if (!isNameLength(name))
       return false;
@@ -69,6 +71,8 @@ struct EscORKARules {
   HexEscape readerEscape;
   HexEscape writerEscape;
   Spelling spelling;
+
+  static constexpr PlainWords plainWords() { return {0, 0, traitUpper, 'S'}; }
 
   bool isLegal(const Name &name) const {
     if (!isNameLength(name))

@@ -33,6 +33,7 @@ private:
 template <const Operations &names, BackslashRules (*rulesUnder)(const Separators &), Separators defaults>
 struct RedefinableRules {
   static constexpr BackslashRules builtIn = rulesUnder(defaults);
+  static constexpr PlainWords plainWords() { return anyWord; } // under the built-in handle
   static constexpr auto makeRules = rulesUnder;
 
   // Calls ask with the rules under a handle, null standing for the current one.
@@ -71,7 +72,8 @@ struct RedefinableRules {
 
 template <const auto &rules, typename Rules = std::remove_cvref_t<decltype(rules)>>
 constexpr Operations redefinableOperationsOf = {operationsOf<rules>.isLegal, operationsOf<rules>.read,
-                                                operationsOf<rules>.write, Rules::makeRules};
+                                                operationsOf<rules>.write, rules.plainWords(),
+                                                Rules::namespaceHandle, Rules::makeRules};
 
 } // namespace zeli
 

@@ -23,6 +23,17 @@ inline bool foldsCase(const Ident &ident, const Setting &setting) {
   return !ident.isCaseSensitive() && state != ZEL_MAP_MATCH;
 }
 
+// Which words are names of a space as they stand, in the default mapping state: those without some traits, and the
+// keywords. (A word with a prefix that some space uses is never one.)
+struct PlainWords {
+  std::uint8_t notRead;
+  std::uint8_t notWrittenSensitive; // of a case-sensitive Ident
+  std::uint8_t notWrittenInsensitive;
+  char readAs; // the marker of their Idents; NUL where it depends on capitals
+  bool (*isKeyword)(const Name &word) = nullptr;
+};
+constexpr PlainWords anyWord = {0, 0, traitUpper, '\0'};
+
 struct BackslashRules;
 struct Separators;
 
@@ -32,7 +43,9 @@ struct Operations {
   bool (*isLegal)(const Name &name, const Setting &setting);
   Ident (*read)(const Name &name, const Setting &setting, Text &work);
   Bytes (*write)(const Ident &ident, const Setting &setting, Text &work);
-  BackslashRules (*rulesUnder)(const Separators &separators) = nullptr; // where a file may redefine separators
+  PlainWords plainWords;
+  zelHandle &(*currentHandle)() = nullptr; // where a file may redefine separators
+  BackslashRules (*rulesUnder)(const Separators &separators) = nullptr; // likewise
 };
 
 // The operations of a space whose rules are constant.
@@ -40,7 +53,8 @@ template <const auto &rules>
 constexpr Operations operationsOf = {
     [](const Name &name, const Setting &) { return rules.isLegal(name); },
     [](const Name &name, const Setting &setting, Text &work) { return rules.read(name, setting, work); },
-    [](const Ident &ident, const Setting &setting, Text &work) { return rules.write(ident, setting, work); }};
+    [](const Ident &ident, const Setting &setting, Text &work) { return rules.write(ident, setting, work); },
+    rules.plainWords()};
 
 } // namespace zeli
 

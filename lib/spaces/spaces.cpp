@@ -55,9 +55,8 @@ SpaceId verilogFamily(char eighth, char ninth) {
 } // namespace
 
 SpaceId zeli::recognise(const char *spaceName) {
-  constexpr std::size_t furthest = 8; // position that is looked at
   // A position behind the end of the name reads as NUL.
-  const Bytes name = spaceName == nullptr ? Bytes{} : Bytes{spaceName, strnlen(spaceName, furthest + 1)};
+  const Bytes name = wholeBytes(spaceName);
   const auto at = [name](std::size_t i) { return i < name.size() ? name[i] : '\0'; };
 
   switch (at(0)) {

@@ -43,7 +43,7 @@ static_assert(keywords.words() == 102);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(Bytes word) { return keywordTable.has(word); }
+bool isKeyword(const Name &word) { return keywordTable.has(word); }
 
 constexpr ByteSet normal = wordChar | chars("!#$%*+-/<>[]");
 

@@ -88,6 +88,8 @@ Bytes writeNormal(const Name &body, Text &work) {
 }
 
 struct VellumRules {
+  static constexpr PlainWords plainWords() { return {0, traitUpper, 0, 'I'}; }
+
   bool isLegal(const Name &name) const {
     return isNameLength(name) &&
            (name.isWord() || (name[0] == '\\' ? isLegalExtended(name, escape.literal) : isNormal(name)));

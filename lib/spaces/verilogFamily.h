@@ -6,7 +6,7 @@
 
 namespace zeli {
 
-constexpr EscapedIdentifierRules verilogFamily(bool (*isKeyword)(Bytes word)) {
+constexpr EscapedIdentifierRules verilogFamily(bool (*isKeyword)(const Name &word)) {
   return escapedIdentifierRules(letter | chars("_"), wordChar | chars("$"), isKeyword);
 }
 

@@ -73,7 +73,7 @@ bool isIn93(Bytes word) {
   return false;
 }
 
-bool isKeyword(Bytes word) {
+bool isKeyword(const Name &word) {
   // Every keyword test is a use of the environment.
   const int mode = vhdlMode();
   const bool isVHDL87 = mode == 1 || (mode == 0 && isEnvironmentSet());

@@ -40,7 +40,7 @@ static_assert(keywords.words() == 81);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(Bytes word) { return keywordTable.hasFolded(word); }
+bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
 
 constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword);
 

@@ -6,7 +6,7 @@
 
 namespace zeli {
 
-constexpr ExtendedIdentifierRules vhdlFamily(bool (*isKeyword)(Bytes word)) {
+constexpr ExtendedIdentifierRules vhdlFamily(bool (*isKeyword)(const Name &word)) {
   constexpr HexEscape escape = {'#', graphic | chars(" ")};
   return {letter, wordChar, escape, spellingExtended(escape), isKeyword};
 }
