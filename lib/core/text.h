@@ -70,15 +70,16 @@ struct Look {
 };
 
 inline Look lookAt(Bytes s) {
+  constexpr unsigned char caseBit = 'a' - 'A';
   BlockTest word = ~BlockTest{};
-  BlockTest capital = {};
+  Block unlike = {}; // the bits that some letter does not have
   std::uint32_t pairs = 0;
   std::uint32_t carried = 0; // the last underscore of the block before
   const auto look = [&](Block block) {
-    const BlockTest isUpper = isWithin(block, 'A', 'Z');
+    const BlockTest isLetter = isWithin(block | caseBit, 'a', 'z');
     const BlockTest underscore = isChar(block, '_');
-    word &= isWithin(block, 'a', 'z') | isUpper | isWithin(block, '0', '9') | underscore;
-    capital |= isUpper;
+    word &= isLetter | isWithin(block, '0', '9') | underscore;
+    unlike |= reinterpret_cast<Block>(isLetter) & ~block;
     const std::uint32_t bits = bitsOf(underscore);
     pairs |= bits & (bits << 1 | carried);
     carried = bits >> (blockBytes - 1);
@@ -103,7 +104,8 @@ inline Look lookAt(Bytes s) {
     look(loadBlock(s.data() + last));
   }
 
-  int traits = (bitsOf(capital) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0) |
+  const BlockTest isUpper = reinterpret_cast<BlockTest>((unlike & caseBit) == caseBit);
+  int traits = (bitsOf(isUpper) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0) |
                (digit.has(s.front()) ? traitDigitFirst : 0) | (s.front() == '_' ? traitUnderscoreFirst : 0) |
                (s.back() == '_' ? traitUnderscoreLast : 0);
   if ((bitsOf(word) | unused) != 0xFFFF) {

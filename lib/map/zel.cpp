@@ -60,8 +60,8 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
 
 // Whether a word is a name of both spaces as it stands. In the default mapping state only, which it must not determine.
 bool isPlain(const Name &name, const Operations &from, const Operations &to) {
-  constexpr std::uint64_t forceHead = 0x5F435345;                // "ESC_"
-  constexpr std::uint64_t keywordHead = 0x5F44524F5759454B;      // "KEYWORD_"
+  constexpr std::uint64_t forceHead = 0x5F435345;           // "ESC_"
+  constexpr std::uint64_t keywordHead = 0x5F44524F5759454B; // "KEYWORD_"
   if (!name.isWord() || (name.head() & 0xFFFFFFFF) == forceHead || name.head() == keywordHead ||
       zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
     return false;

@@ -72,8 +72,8 @@ struct RedefinableRules {
 
 template <const auto &rules, typename Rules = std::remove_cvref_t<decltype(rules)>>
 constexpr Operations redefinableOperationsOf = {operationsOf<rules>.isLegal, operationsOf<rules>.read,
-                                                operationsOf<rules>.write, rules.plainWords(),
-                                                Rules::namespaceHandle, Rules::makeRules};
+                                                operationsOf<rules>.write,   rules.plainWords(),
+                                                Rules::namespaceHandle,      Rules::makeRules};
 
 } // namespace zeli
 

@@ -44,7 +44,7 @@ struct Operations {
   Ident (*read)(const Name &name, const Setting &setting, Text &work);
   Bytes (*write)(const Ident &ident, const Setting &setting, Text &work);
   PlainWords plainWords;
-  zelHandle &(*currentHandle)() = nullptr; // where a file may redefine separators
+  zelHandle &(*currentHandle)() = nullptr;                              // where a file may redefine separators
   BackslashRules (*rulesUnder)(const Separators &separators) = nullptr; // likewise
 };
 

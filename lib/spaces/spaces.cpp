@@ -55,11 +55,17 @@ SpaceId verilogFamily(char eighth, char ninth) {
 } // namespace
 
 SpaceId zeli::recognise(const char *spaceName) {
-  // A position behind the end of the name reads as NUL.
-  const Bytes name = wholeBytes(spaceName);
-  const auto at = [name](std::size_t i) { return i < name.size() ? name[i] : '\0'; };
+  if (spaceName == nullptr)
+    return SpaceId::none;
+  // A position behind the end of the name reads as NUL. The names are so short that a length costs more than it saves.
+  const auto at = [spaceName](int position) {
+    for (int i = 1; i < position; ++i)
+      if (spaceName[i] == '\0')
+        return '\0';
+    return spaceName[position];
+  };
 
-  switch (at(0)) {
+  switch (*spaceName) {
   case '4':
     return SpaceId::ORKA44;
   case 'A':
@@ -69,9 +75,7 @@ SpaceId zeli::recognise(const char *spaceName) {
   case 'E':
     if (at(1) == 's')
       return SpaceId::EscORKA;
-    if (name.size() < 5)
-      return SpaceId::none;
-    return at(4) == '2' ? SpaceId::Edif200 : SpaceId::Edif300;
+    return at(4) == '\0' ? SpaceId::none : at(4) == '2' ? SpaceId::Edif200 : SpaceId::Edif300;
   case 'F':
     if (at(1) == 'i')
       return SpaceId::LibraryUnix;
@@ -95,13 +99,11 @@ SpaceId zeli::recognise(const char *spaceName) {
   case 'P':
     return SpaceId::Print;
   case 'S':
-    if (name.size() == 3 && at(1) == 'd')
-      return SpaceId::Sdf;
-    if (name.size() == 3 && at(1) == 'p')
-      return SpaceId::Spf;
+    if (at(2) != '\0' && at(3) == '\0' && (at(1) == 'd' || at(1) == 'p'))
+      return at(1) == 'd' ? SpaceId::Sdf : SpaceId::Spf;
     if (at(2) == 'i')
       return SpaceId::Spice;
-    return name.size() == 4 ? SpaceId::Spef : SpaceId::none;
+    return at(3) != '\0' && at(4) == '\0' ? SpaceId::Spef : SpaceId::none;
   case 'T':
     return SpaceId::Tessel;
   case 'V':
