@@ -46,6 +46,14 @@ const char *skipQuoting(const char *text, const ByteSet &plain) {
   }
 }
 
+// Whether the character at text is escaped by the backslash in front of it, which no other backslash escapes.
+bool isEscaped(const char *start, const char *text) {
+  const char *first = text;
+  while (first != start && first[-1] == '\\')
+    --first;
+  return (text - first) % 2 != 0;
+}
+
 // Likewise, up to a separator of the handle or the stop of the format.
 const char *skipQuoting(const char *text, zelHandle handle, char stop) {
   ByteSet stops;
@@ -96,8 +104,10 @@ const char *zeliScanFlatTessel(const char *text, zelHandle) { return skipQuoting
 const char *zeliScanSpice(const char *text, zelHandle) { return skipQuoting(text, graphic - chars(".")); }
 
 const char *zeliScanKirra(const char *text, zelHandle) {
-  constexpr ByteSet plain = graphic - chars(".[]{},\\");
+  constexpr ByteSet brackets = chars("[]{},");
+  constexpr ByteSet plain = graphic - brackets - chars(".\\");
   constexpr ByteSet behindPair = range(1, 127) - chars(".");
+  const char *const start = text;
   for (;;) {
     text = skip(text, plain);
     if (*text != '\\')
@@ -106,8 +116,11 @@ const char *zeliScanKirra(const char *text, zelHandle) {
     if (!graphic.has(*text))
       return text;
     ++text;
-    // One more character goes with the pair, even one that would end the name or begin another pair.
+    // One more character goes with the pair, even one that would end the name or begin another pair. In the latter case
+    // a bracket behind it is escaped, and belongs to the name as well.
     if (behindPair.has(*text))
+      ++text;
+    if (brackets.has(*text) && isEscaped(start, text))
       ++text;
   }
 }
