@@ -16,13 +16,19 @@ const char *rejectIndex(zelPath path, const char *text) {
   return text;
 }
 
-// Appends the list starts that were read since the last item. They wait for an item, since a list of a refused index
-// that nothing was read for could not be printed.
+// Appends the list starts that were read since the last item. They wait for an item, since a list that nothing was read
+// for could not be printed.
 bool appendListStarts(zelPath path, int &pending) {
   for (; pending > 0; --pending)
     if (!append(path, kindIndexListStart))
       return false;
   return true;
+}
+
+// Takes back those whose item could not be added.
+void removeListStarts(zelPath path) {
+  while (lastItem(path) == kindIndexListStart)
+    removeLastByte(path);
 }
 
 // Reads one index, text standing behind its '<', and returns the place behind its '>'.
@@ -64,8 +70,10 @@ const char *parseORKAIndex(zelPath path, const char *text) {
         isAdded = isAdded && (goesOn || appendNumber(path, kindIndex, from));
         state = first;
       }
-      if (!isAdded)
+      if (!isAdded) {
+        removeListStarts(path);
         return rejectIndex(path, number);
+      }
       --text; // the loop steps on
       continue;
     }
