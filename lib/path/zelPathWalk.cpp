@@ -15,15 +15,14 @@ constexpr std::uint32_t positionMask = 0xFF;
 // meets its last number once as ZEL_ITEM_NONE.
 std::uint8_t walkSize(std::uint8_t kind) { return kind == kindStepRange ? std::uint8_t{3} : itemSize(kind); }
 
-// The chunk that the walk stands on: the first whose cursor does not say passed.
+// The chunk that the walk stands on: the first whose cursor does not say passed. What moves the walk remembers it.
 zelPath walkedChunk(zelPath path) {
-  if (path->walked == nullptr) {
-    zelPath chunk = path;
-    while (chunk->cursor == cursorPassed && chunk->next != nullptr)
-      chunk = chunk->next;
-    path->walked = chunk;
-  }
-  return path->walked;
+  if (path->walked != nullptr)
+    return path->walked;
+  zelPath chunk = path;
+  while (chunk->cursor == cursorPassed && chunk->next != nullptr)
+    chunk = chunk->next;
+  return chunk;
 }
 
 struct WalkedItem {
@@ -256,7 +255,7 @@ std::uint32_t zelPathGetLocation(zelPath path) noexcept {
 std::uint32_t zelPathSetLocation(zelPath path, std::uint32_t location) noexcept {
   if (path == nullptr)
     return 0;
-  path->walked = nullptr;
+  path->walked = path;
   if (location == 0) {
     path->cursor = cursorReset;
     return 0;
@@ -270,6 +269,7 @@ std::uint32_t zelPathSetLocation(zelPath path, std::uint32_t location) noexcept 
     chunk->cursor = cursorPassed;
     chunk = chunk->next;
   }
+  path->walked = chunk;
   const std::uint32_t position = location & positionMask;
   if (position > chunk->used) {
     chunk->cursor = chunk->used;
