@@ -112,8 +112,9 @@ struct zelPathRecord {
   std::uint8_t items[zeli::chunkBytes];
   zeli::Slot slots[zeli::chunkSlots];
 
-  // In the head, so that long paths cost no search: a chunk at or before the last used one, and the chunk that the walk
-  // stands on (null when it has to be looked up).
+  // So that long paths cost no search: the chunk before this one (null in the head); in the head a chunk at or before
+  // the last used one, and the chunk that the walk stands on (null when it has to be looked up).
+  zelPath previous;
   zelPath last;
   zelPath walked;
 };
