@@ -1,6 +1,5 @@
-// The handles: each path-capable space's separators, parser and printer.
-#include "core/handle.h"
-#include "core/registry.h"
+// The handles by name; what each holds stands with the path languages.
+#include "path/languages.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -9,64 +8,17 @@ using namespace zeli;
 
 namespace {
 
-// Which separators a file of the format may redefine.
-enum class Redefines { nothing, everything, busBrackets };
-
-struct BuiltIn {
-  SpaceId space;
-  Redefines redefines;
-  VarBits varBits;
-  zelHandleRecord handle;
-
-  constexpr BuiltIn(SpaceId id, Redefines what, const char *name, PathParser parse, PathPrinter print,
-                    Separators separators)
-      : space(id),
-        redefines(what), varBits{name, parse, print, separators}, handle{builtInHandle, &varBits, separators} {}
-};
-
-// Verilog-AMS keeps the separators of its netlists although it prints as Verilog; VHDL-87 goes by the name of VHDL.
-// clang-format off
-constexpr BuiltIn verilog(SpaceId::Verilog, Redefines::nothing, "Verilog", zelParseVerilog, zelPathToVerilogEx, {'.', '.', '[', ']'});
-constexpr BuiltIn verilogAMS(SpaceId::VerilogAMS, Redefines::nothing, "VerilogAMS", zelParseVerilogAMS, zelPathToVerilogEx, {'/', '/', '<', '>'});
-constexpr BuiltIn vhdl(SpaceId::VHDL, Redefines::nothing, "VHDL", zelParseVHDL, zelPathToVHDLEx, {':', ':', '(', ')'});
-constexpr BuiltIn vhdl87(SpaceId::VHDL87, Redefines::nothing, "VHDL", zelParseVHDL87, zelPathToVHDLEx, {':', ':', '(', ')'});
-constexpr BuiltIn vhdlAMS(SpaceId::VHDLAMS, Redefines::nothing, "VHDLAMS", zelParseVHDLAMS, zelPathToVHDLEx, {':', ':', '(', ')'});
-constexpr BuiltIn orka(SpaceId::ORKA, Redefines::nothing, "ORKA", zelParseORKA, zelPathToORKAEx, {'/', '/', '<', '>'});
-constexpr BuiltIn kirra(SpaceId::Kirra, Redefines::nothing, "Kirra", zelParseKirra, zelPathToKirraEx, {'/', '/', '[', ']'});
-constexpr BuiltIn kirraHDL(SpaceId::KirraHDL, Redefines::nothing, "KirraHDL", zelParseKirraHDL, zelPathToKirraHDLEx, {'/', '/', '[', ']'});
-constexpr BuiltIn spice(SpaceId::Spice, Redefines::nothing, "Spice", zelParseSpice, zelPathToSpiceEx, {'/', '/', '[', ']'});
-constexpr BuiltIn tessel(SpaceId::Tessel, Redefines::nothing, "Tessel", zelParseTessel, zelPathToTesselEx, {'|', '|', '[', ']'});
-constexpr BuiltIn flatTessel(SpaceId::FlatTessel, Redefines::busBrackets, "FlatTessel", zelParseFlatTessel, zelPathToFlatTesselEx, {'\0', '\0', '[', ']'});
-constexpr BuiltIn sdf(SpaceId::Sdf, Redefines::everything, "Sdf", zelParseSdf, zelPathToSdfEx, {'/', '/', '[', ']'});
-constexpr BuiltIn spf(SpaceId::Spf, Redefines::everything, "Spf", zelParseSpf, zelPathToSpfEx, {':', '/', '[', ']'});
-constexpr BuiltIn spef(SpaceId::Spef, Redefines::everything, "Spef", zelParseSpef, zelPathToSpefEx, {'/', '/', '[', ']'});
-constexpr BuiltIn gcf(SpaceId::Gcf, Redefines::everything, "GCF", zelParseGcf, zelPathToGcfEx, {'.', '.', '<', '>'});
-constexpr BuiltIn lef(SpaceId::Lef, Redefines::everything, "Lef", zelParseLef, zelPathToLefEx, {'/', '/', '[', ']'});
-constexpr BuiltIn def(SpaceId::Def, Redefines::everything, "DEF", zelParseDef, zelPathToDefEx, {'/', '/', '[', ']'});
-// clang-format on
-
-constexpr const BuiltIn *builtIns[] = {&verilog, &verilogAMS, &vhdl,  &vhdl87, &vhdlAMS,    &orka,
-                                       &kirra,   &kirraHDL,   &spice, &tessel, &flatTessel, &sdf,
-                                       &spf,     &spef,       &gcf,   &lef,    &def};
-
-const BuiltIn *builtInOf(SpaceId space) {
-  for (const BuiltIn *builtIn : builtIns)
-    if (builtIn->space == space)
-      return builtIn;
-  return nullptr;
-}
-
-const BuiltIn *builtInOf(const char *spaceName) {
+const PathLanguage *languageNamed(const char *spaceName) {
   const SpaceId space = recognise(spaceName);
   // The registry takes every other name of the family for Verilog-AMS, a handle needs its own.
   if (space == SpaceId::VerilogAMS && spaceName != nullptr && !(spaceName[7] == 'A' && spaceName[8] == 'M'))
     return nullptr;
-  return builtInOf(space);
+  return languageOf(space);
 }
 
 // For a handle to be made, every name with an L means LEF, also those of the library spaces.
-const BuiltIn *templateOf(const char *spaceName) {
-  return spaceName != nullptr && *spaceName == 'L' ? builtInOf(SpaceId::Lef) : builtInOf(spaceName);
+const PathLanguage *templateOf(const char *spaceName) {
+  return spaceName != nullptr && *spaceName == 'L' ? &languages::lef : languageNamed(spaceName);
 }
 
 Separators given(std::uint32_t pinDelimiter, std::uint32_t divider, std::uint32_t busOpen, std::uint32_t busClose) {
@@ -74,9 +26,9 @@ Separators given(std::uint32_t pinDelimiter, std::uint32_t divider, std::uint32_
           static_cast<char>(busClose)};
 }
 
-bool isDefault(const BuiltIn &builtIn, Separators chosen) {
-  Separators defaults = builtIn.varBits.separators;
-  if (builtIn.redefines == Redefines::busBrackets) {
+bool isDefault(const PathLanguage &language, Separators chosen) {
+  Separators defaults = language.varBits.separators;
+  if (language.redefines == Redefines::busBrackets) {
     chosen.pinDelimiter = defaults.pinDelimiter = '\0';
     chosen.divider = defaults.divider = '\0';
   }
@@ -85,42 +37,24 @@ bool isDefault(const BuiltIn &builtIn, Separators chosen) {
 
 } // namespace
 
-const zelHandle zelVerilogHandle = &verilog.handle;
-const zelHandle zelVerilogAMSHandle = &verilogAMS.handle;
-const zelHandle zelVHDLHandle = &vhdl.handle;
-const zelHandle zelVHDL87Handle = &vhdl87.handle;
-const zelHandle zelVHDLAMSHandle = &vhdlAMS.handle;
-const zelHandle zelORKAHandle = &orka.handle;
-const zelHandle zelKirraHandle = &kirra.handle;
-const zelHandle zelKirraHDLHandle = &kirraHDL.handle;
-const zelHandle zelSpiceHandle = &spice.handle;
-const zelHandle zelTesselHandle = &tessel.handle;
-const zelHandle zelFlatTesselHandle = &flatTessel.handle;
-const zelHandle zelSdfHandle = &sdf.handle;
-const zelHandle zelSpfHandle = &spf.handle;
-const zelHandle zelSpefHandle = &spef.handle;
-const zelHandle zelGcfHandle = &gcf.handle;
-const zelHandle zelLefHandle = &lef.handle;
-const zelHandle zelDefHandle = &def.handle;
-
 zelHandle zelGetHandle(const char *spaceName, std::uint32_t pinDelimiter, std::uint32_t divider, std::uint32_t busOpen,
                        std::uint32_t busClose) noexcept {
-  const BuiltIn *builtIn = builtInOf(spaceName);
-  if (builtIn != nullptr && (builtIn->redefines == Redefines::nothing ||
-                             isDefault(*builtIn, given(pinDelimiter, divider, busOpen, busClose))))
-    return &builtIn->handle;
+  const PathLanguage *language = languageNamed(spaceName);
+  if (language != nullptr && (language->redefines == Redefines::nothing ||
+                              isDefault(*language, given(pinDelimiter, divider, busOpen, busClose))))
+    return *language->handle;
   return zelAllocHandle(spaceName, pinDelimiter, divider, busOpen, busClose);
 }
 
 zelHandle zelAllocHandle(const char *spaceName, std::uint32_t pinDelimiter, std::uint32_t divider,
                          std::uint32_t busOpen, std::uint32_t busClose) noexcept {
-  const BuiltIn *builtIn = templateOf(spaceName);
-  if (builtIn == nullptr || builtIn->redefines == Redefines::nothing)
+  const PathLanguage *language = templateOf(spaceName);
+  if (language == nullptr || language->redefines == Redefines::nothing)
     return nullptr;
 
-  const Separators &defaults = builtIn->varBits.separators;
+  const Separators &defaults = language->varBits.separators;
   Separators chosen = given(pinDelimiter, divider, busOpen, busClose);
-  const bool isFlat = builtIn->redefines == Redefines::busBrackets;
+  const bool isFlat = language->redefines == Redefines::busBrackets;
   if (isFlat || chosen.pinDelimiter == '\0')
     chosen.pinDelimiter = defaults.pinDelimiter;
   if (isFlat || chosen.divider == '\0')
@@ -135,7 +69,7 @@ zelHandle zelAllocHandle(const char *spaceName, std::uint32_t pinDelimiter, std:
     errno = ENOMEM;
     return nullptr;
   }
-  *handle = {madeHandle, &builtIn->varBits, chosen};
+  *handle = {madeHandle, &language->varBits, chosen};
   return handle;
 }
 

@@ -1,5 +1,5 @@
 // The path object: its memory and its appends.
-#include "path/chunk.h"
+#include "path/zelPath.h"
 
 #include "core/zelpvt.h"
 

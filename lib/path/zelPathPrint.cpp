@@ -1,5 +1,5 @@
-// The printing driver and the public printers.
-#include "path/print.h"
+// The printing driver.
+#include "path/zelPathPrint.h"
 
 #include "core/zelpvt.h"
 
@@ -34,11 +34,11 @@ struct Prefix {
 
 // Writes one combination: the name from its start, each node's item replaced by the node's value. Returns where the
 // name ended.
-Cursor printCombination(PrintRun &run, explNode *first, const explNode *last, Prefix &prefix) {
+Cursor printCombination(PrintRun &run, ExplosionNode *first, const ExplosionNode *last, Prefix &prefix) {
   run.guard();
   const std::uint32_t startState = run.state;
   const std::size_t startSize = run.size;
-  explNode *node = first;
+  ExplosionNode *node = first;
   Cursor cursor = first->start;
   if (prefix.isKnown && prefix.startState == startState) {
     run.put(prefix.text);
@@ -68,14 +68,14 @@ Cursor printCombination(PrintRun &run, explNode *first, const explNode *last, Pr
 
 // Writes a name once for every combination of the values of its nodes, the last node varying fastest. Gives up once the
 // text is over-long, so that an enumeration without end does end.
-Cursor walkIndex(PrintRun &run, explNode *first) {
-  explNode *last = first;
+Cursor walkIndex(PrintRun &run, ExplosionNode *first) {
+  ExplosionNode *last = first;
   while (last->next != nullptr && last->next->start == first->start)
     last = last->next;
   Prefix prefix;
   for (;;) {
     const Cursor end = printCombination(run, first, last, prefix);
-    explNode *node = last;
+    ExplosionNode *node = last;
     while (incrementIndex(node)) {
       if (node == first)
         return end;
@@ -87,7 +87,7 @@ Cursor walkIndex(PrintRun &run, explNode *first) {
   }
 }
 
-void printItems(PrintRun &run, explNode *node) {
+void printItems(PrintRun &run, ExplosionNode *node) {
   Cursor cursor = firstItem(run.path);
   while (!cursor.atEnd()) {
     if (node == nullptr || node->start != cursor) {
@@ -103,7 +103,7 @@ void printItems(PrintRun &run, explNode *node) {
 }
 
 void openGroup(PrintRun &run) {
-  if (run.target.braces == Braces::verilog) {
+  if (run.language.writer.braces == Braces::verilog) {
     if ((zelPathGetFlag(run.path) & ZEL_PATH_SINGLE_VERILOG) != 0)
       return;
     run.put('{');
@@ -114,14 +114,9 @@ void openGroup(PrintRun &run) {
 } // namespace
 
 // cppcheck-suppress uninitMemberVar ; the text is deliberately not cleared for every name
-PrintRun::PrintRun(const Target &printTarget, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask)
-    : target(printTarget), path(printedPath), handle(givenHandle), separators(printTarget.separators), state(mask) {
-  if (target.defaultHandle == nullptr)
-    return;
-  if (handle == nullptr)
-    handle = *target.defaultHandle;
-  separators = handle->separators;
-}
+PrintRun::PrintRun(const PathLanguage &target, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask)
+    : language(target), path(printedPath), handle(separatingHandle(target, givenHandle)),
+      marks(marksOf(handle, target.writer.marks)), state(mask) {}
 
 void PrintRun::putNumber(std::int32_t number) {
   if (number < 0)
@@ -142,8 +137,9 @@ void PrintRun::putNumber(std::int32_t number) {
 void PrintRun::putIdent(const char *ident) {
   guard();
   char *const out = text + size;
-  const char *name = target.identToNameWithHandle != nullptr ? target.identToNameWithHandle(ident, nullptr, out, handle)
-                                                             : target.identToName(ident, nullptr, out);
+  const PathWriter &writer = language.writer;
+  const char *name = writer.toNameWithHandle != nullptr ? writer.toNameWithHandle(ident, nullptr, out, handle)
+                                                        : writer.toName(ident, nullptr, out);
   if (name != nullptr)
     size += std::strlen(name);
 }
@@ -160,43 +156,44 @@ void PrintRun::putIdentAt(Cursor cursor) {
 
 void PrintRun::item(Cursor cursor) {
   guard();
-  target.printer.item(*this, cursor);
+  language.writer.printer->item(*this, cursor);
 }
 
 void PrintRun::value(std::int32_t index) {
   guard();
-  target.printer.value(*this, index);
+  language.writer.printer->value(*this, index);
 }
 
 void PrintRun::alternative() {
   guard();
-  target.printer.alternative(*this);
+  language.writer.printer->alternative(*this);
 }
 
-char *zeli::printPath(const Target &target, zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc,
-                      void *context) {
+char *zeli::printPath(const PathLanguage &language, zelPath path, zelHandle handle, std::int32_t flags,
+                      zelAllocFunc alloc, void *context) {
   if (firstItem(path).atEnd())
     return makeString("", alloc, context);
   const auto isAsked = [flags](int flag) { return (flags & flag) != 0; };
 
-  std::uint32_t mask = target.mask;
+  const ItemPrinter &printer = *language.writer.printer;
+  std::uint32_t mask = printer.mask;
   if (isAsked(ZEL_PRINT_EXPLODE))
-    mask |= target.explodeMask;
+    mask |= printer.explodeMask;
   if (isAsked(ZEL_PRINT_NOREPEAT))
-    mask |= target.noRepeatMask;
+    mask |= printer.noRepeatMask;
   Explosion explosion;
   if (mask != 0)
     setupExplode(explosion, path, mask);
 
   char *result = nullptr;
   if (explosion.isWhole) {
-    PrintRun run(target, path, handle, mask);
+    PrintRun run(language, path, handle, mask);
     if (isAsked(ZEL_PRINT_TOP))
       run.set(stateTopOfHierarchy);
     if (isAsked(ZEL_PRINT_GROUP))
       openGroup(run);
     printItems(run, explosion.first);
-    target.printer.finish(run);
+    printer.finish(run);
     run.text[run.size] = '\0';
     if (run.isOutOfMemory)
       errno = ENOMEM;

@@ -1,7 +1,7 @@
-#include "path/scan.h"
+#include "path/zelPathScan.h"
 
 #include "core/byteSet.h"
-#include "core/handle.h"
+#include "path/languages.h"
 
 using namespace zeli;
 
@@ -33,11 +33,19 @@ const char *skipExtended(const char *text) {
   }
 }
 
-// A name in which a backslash takes the next character, whatever it is but the end or a byte of 128 or above.
-const char *skipQuoting(const char *text, const ByteSet &plain) {
+// A name in which a backslash takes the next character, whatever it is but the end or a byte of 128 or above. It ends
+// at the stops of the language and at separators that a file may redefine.
+const char *skipQuoting(const char *text, const PathLanguage &language, zelHandle handle) {
   constexpr ByteSet sevenBit = range(1, 127);
+  const auto [divider, busOpen, busClose] = marksOf(separatingHandle(language, handle), {});
+  ByteSet separators;
+  separators.add(divider);
+  separators.add(busOpen);
+  separators.add(busClose);
+  const ByteSet plain = graphic - language.names.stops - separators;
+  const ByteSet unquoted = plain - chars("\\");
   for (;;) {
-    text = skip(text, plain - chars("\\"));
+    text = skip(text, unquoted);
     if (*text != '\\' || !plain.has(*text))
       return text;
     ++text;
@@ -52,16 +60,6 @@ bool isEscaped(const char *start, const char *text) {
   while (first != start && first[-1] == '\\')
     --first;
   return (text - first) % 2 != 0;
-}
-
-// Likewise, up to a separator of the handle or the stop of the format.
-const char *skipQuoting(const char *text, zelHandle handle, char stop) {
-  ByteSet stops;
-  stops.add(stop);
-  stops.add(handle->separators.divider);
-  stops.add(handle->separators.busOpen);
-  stops.add(handle->separators.busClose);
-  return skipQuoting(text, graphic - stops);
 }
 
 } // namespace
@@ -97,12 +95,6 @@ const char *zeliScanORKA(const char *text, zelHandle) {
   }
 }
 
-const char *zeliScanTessel(const char *text, zelHandle) { return skipQuoting(text, graphic - chars("[]|")); }
-
-const char *zeliScanFlatTessel(const char *text, zelHandle) { return skipQuoting(text, graphic - chars("[]")); }
-
-const char *zeliScanSpice(const char *text, zelHandle) { return skipQuoting(text, graphic - chars(".")); }
-
 const char *zeliScanKirra(const char *text, zelHandle) {
   constexpr ByteSet brackets = chars("[]{},");
   constexpr ByteSet plain = graphic - brackets - chars(".\\");
@@ -125,14 +117,16 @@ const char *zeliScanKirra(const char *text, zelHandle) {
   }
 }
 
-const char *zeliScanLef(const char *text, zelHandle handle) { return skipQuoting(text, handle, ';'); }
+// The scanners of the languages in which a backslash takes the next character: zeliScan<X>.
+#define ZELI_QUOTING_SCANNER(scanner, language)                                                                        \
+  const char *scanner(const char *text, zelHandle handle) { return skipQuoting(text, language, handle); }
 
-const char *zeliScanDef(const char *text, zelHandle handle) { return skipQuoting(text, handle, ';'); }
-
-const char *zeliScanSdf(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
-
-const char *zeliScanSpf(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
-
-const char *zeliScanSpef(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
-
-const char *zeliScanGcf(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
+ZELI_QUOTING_SCANNER(zeliScanTessel, languages::tessel)
+ZELI_QUOTING_SCANNER(zeliScanFlatTessel, languages::flatTessel)
+ZELI_QUOTING_SCANNER(zeliScanSpice, languages::spice)
+ZELI_QUOTING_SCANNER(zeliScanLef, languages::lef)
+ZELI_QUOTING_SCANNER(zeliScanDef, languages::def)
+ZELI_QUOTING_SCANNER(zeliScanSdf, languages::sdf)
+ZELI_QUOTING_SCANNER(zeliScanSpf, languages::spf)
+ZELI_QUOTING_SCANNER(zeliScanSpef, languages::spef)
+ZELI_QUOTING_SCANNER(zeliScanGcf, languages::gcf)

@@ -1,6 +1,6 @@
 // Walking a path, reading its items, and cutting it.
-#include "path/chunk.h"
-#include "path/language.h"
+#include "path/zelPath.h"
+#include "path/zelPathIdent.h"
 
 #include <cstdlib>
 
@@ -88,7 +88,7 @@ void releaseItems(const zelPathRecord *chunk, std::size_t position, const Releas
     const Slot *slots = chunk->slots;
     if (kind == kindSharedMark) {
       isShared = true;
-    } else if (isIn(kind, kindOwnedIdent, chunkSlots)) {
+    } else if (hasSlot(kind, kindOwnedIdent)) {
       release(slots[slotOf(kind)].string);
     } else if (isLib(kind)) {
       const std::size_t names = kind >= kindLibView ? 3 : 2;
@@ -187,8 +187,8 @@ const char *zelPathGetIdent(zelPath path) noexcept {
   const WalkedItem item = walkedItem(path);
   if (isConverted(item.kind))
     return item.slot().string;
-  const Language *language = isText(item.kind) ? languageOf(path) : nullptr;
-  if (language == nullptr || !language->convertsOnRequest)
+  const PathLanguage *language = isText(item.kind) ? languageOf(path) : nullptr;
+  if (language == nullptr || !language->names.convertsOnRequest)
     return nullptr;
   char *ident = convertText(*language, path, item.slot().string);
   if (ident == nullptr) {
@@ -202,13 +202,13 @@ const char *zelPathGetIdent(zelPath path) noexcept {
 
 const char *zelPathGetString(zelPath path, const char **end) noexcept {
   const WalkedItem item = walkedItem(path);
-  const Language *language = isText(item.kind) ? languageOf(path) : nullptr;
-  if (language == nullptr || !language->showsText) {
+  const PathLanguage *language = isText(item.kind) ? languageOf(path) : nullptr;
+  if (language == nullptr || !language->names.showsText) {
     store(end, static_cast<const char *>(nullptr));
     return nullptr;
   }
   const char *start = item.slot().string;
-  store(end, language->scan(start, path->handle));
+  store(end, language->names.scan(start, path->handle));
   return start;
 }
 

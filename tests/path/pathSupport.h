@@ -4,8 +4,8 @@
 #define PATH_SUPPORT_H
 
 #include "core/handle.h"
-#include "path/chunk.h"
-#include "path/language.h"
+#include "path/languages.h"
+#include "path/zelPath.h"
 #include "support/rules.h"
 
 #include <cstdio>
@@ -59,7 +59,7 @@ inline std::string identAt(zelPath path) {
   if (!zeli::isText(kind))
     return resultOf(zelPathGetIdent(path)).value_or("-");
   const char *const text = chunk->slots[zeli::slotOf(kind)].string;
-  const std::string name(text, zeli::languageOf(path)->scan(text, path->handle));
+  const std::string name(text, zeli::languageOf(path)->names.scan(text, path->handle));
   const char *end = nullptr;
   const char *const shown = zelPathGetString(path, &end);
   EXPECT_TRUE(shown == nullptr || std::string(shown, end) == name);
