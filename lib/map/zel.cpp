@@ -1,5 +1,6 @@
 // The mapping of names and paths between spaces.
-#include "core/handle.h"
+#include "path/zelPathParse.h"
+#include "path/zelPathPrint.h"
 #include "spaces/spaces.h"
 
 #include <cstddef>
@@ -47,12 +48,13 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
   if (from == nullptr || to == nullptr)
     return nullptr;
   Arena arena;
-  const zelPath path = from->varBits->parse(text, from, Arena::allocate, &arena);
+  const zelPath path = parsePath(*from->language, text, from, Arena::allocate, &arena);
   if (path == nullptr)
     return nullptr;
   char *result = nullptr;
   if ((zelPathGetFlag(path) & ZEL_PATH_ERROR) == 0)
-    result = to->varBits->print(path, to, static_cast<std::int32_t>(flags), alloc, context);
+    result =
+        printPath(printingLanguage(*to->language), path, to, static_cast<std::int32_t>(flags), alloc, context, true);
   zelFreePath(path, Arena::release, &arena);
   // cppcheck-suppress returnDanglingLifetime ; the result is the caller's memory, not the path's
   return result;

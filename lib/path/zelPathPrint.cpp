@@ -1,7 +1,9 @@
-// The printing driver and the public printers.
-#include "path/print.h"
+// The printing driver.
+#include "path/zelPathPrint.h"
 
 #include "core/zelpvt.h"
+
+#include "path/zelPathIdent.h"
 
 #include <iterator>
 
@@ -34,11 +36,11 @@ struct Prefix {
 
 // Writes one combination: the name from its start, each node's item replaced by the node's value. Returns where the
 // name ended.
-Cursor printCombination(PrintRun &run, explNode *first, const explNode *last, Prefix &prefix) {
+Cursor printCombination(PrintRun &run, ExplosionNode *first, const ExplosionNode *last, Prefix &prefix) {
   run.guard();
   const std::uint32_t startState = run.state;
   const std::size_t startSize = run.size;
-  explNode *node = first;
+  ExplosionNode *node = first;
   Cursor cursor = first->start;
   if (prefix.isKnown && prefix.startState == startState) {
     run.put(prefix.text);
@@ -68,14 +70,14 @@ Cursor printCombination(PrintRun &run, explNode *first, const explNode *last, Pr
 
 // Writes a name once for every combination of the values of its nodes, the last node varying fastest. Gives up once the
 // text is over-long, so that an enumeration without end does end.
-Cursor walkIndex(PrintRun &run, explNode *first) {
-  explNode *last = first;
+Cursor walkIndex(PrintRun &run, ExplosionNode *first) {
+  ExplosionNode *last = first;
   while (last->next != nullptr && last->next->start == first->start)
     last = last->next;
   Prefix prefix;
   for (;;) {
     const Cursor end = printCombination(run, first, last, prefix);
-    explNode *node = last;
+    ExplosionNode *node = last;
     while (incrementIndex(node)) {
       if (node == first)
         return end;
@@ -87,7 +89,7 @@ Cursor walkIndex(PrintRun &run, explNode *first) {
   }
 }
 
-void printItems(PrintRun &run, explNode *node) {
+void printItems(PrintRun &run, ExplosionNode *node) {
   Cursor cursor = firstItem(run.path);
   while (!cursor.atEnd()) {
     if (node == nullptr || node->start != cursor) {
@@ -103,7 +105,7 @@ void printItems(PrintRun &run, explNode *node) {
 }
 
 void openGroup(PrintRun &run) {
-  if (run.target.braces == Braces::verilog) {
+  if (run.language.writer.braces == Braces::verilog) {
     if ((zelPathGetFlag(run.path) & ZEL_PATH_SINGLE_VERILOG) != 0)
       return;
     run.put('{');
@@ -114,14 +116,10 @@ void openGroup(PrintRun &run) {
 } // namespace
 
 // cppcheck-suppress uninitMemberVar ; the text is deliberately not cleared for every name
-PrintRun::PrintRun(const Target &printTarget, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask)
-    : target(printTarget), path(printedPath), handle(givenHandle), separators(printTarget.separators), state(mask) {
-  if (target.defaultHandle == nullptr)
-    return;
-  if (handle == nullptr)
-    handle = *target.defaultHandle;
-  separators = handle->separators;
-}
+PrintRun::PrintRun(const PathLanguage &target, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask,
+                   bool isTransientPath)
+    : language(target), path(printedPath), handle(separatingHandle(target, givenHandle)),
+      marks(marksOf(handle, target.writer.marks)), state(mask), isTransient(isTransientPath) {}
 
 void PrintRun::putNumber(std::int32_t number) {
   if (number < 0)
@@ -139,16 +137,32 @@ void PrintRun::putNumber(std::int32_t number) {
   put(Bytes{first, static_cast<std::size_t>(end - first)});
 }
 
-void PrintRun::putIdent(const char *ident) {
+void PrintRun::putIdent(const Ident &ident) {
   guard();
-  char *const out = text + size;
-  const char *name = target.identToNameWithHandle != nullptr ? target.identToNameWithHandle(ident, nullptr, out, handle)
-                                                             : target.identToName(ident, nullptr, out);
-  if (name != nullptr)
-    size += std::strlen(name);
+  if (!isNameLength(ident.body)) {
+    refuse();
+    return;
+  }
+  const Operations &names = *language.writer.names;
+  Text work;
+  const Bytes name = names.write(ident, {.handle = handle}, work);
+  if (names.currentHandle != nullptr)
+    names.currentHandle() = nullptr; // as at the end of every call with a handle
+  if (name.size() > maxName)
+    refuse();
+  else if (name.data() != nullptr)
+    put(name);
 }
 
+void PrintRun::putIdent(const char *ident) { putIdent(identOf(ident)); }
+
 void PrintRun::putIdentAt(Cursor cursor) {
+  if (isText(cursor.kind()) && isTransient) {
+    const PathLanguage *source = languageOf(path);
+    Text work;
+    putIdent(readText(*source, path, cursor.chunk->slots[slotOf(cursor.kind())].string, work));
+    return;
+  }
   if (isText(cursor.kind()))
     zelStrToIdent(cursor.chunk, cursor.position);
   // Only memory keeps a text from becoming an Ident, be it a null one.
@@ -160,43 +174,45 @@ void PrintRun::putIdentAt(Cursor cursor) {
 
 void PrintRun::item(Cursor cursor) {
   guard();
-  target.printer.item(*this, cursor);
+  language.writer.printer->item(*this, cursor);
 }
 
 void PrintRun::value(std::int32_t index) {
   guard();
-  target.printer.value(*this, index);
+  language.writer.printer->value(*this, index);
 }
 
 void PrintRun::alternative() {
   guard();
-  target.printer.alternative(*this);
+  language.writer.printer->alternative(*this);
 }
 
-char *zeli::printPath(const Target &target, zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc,
-                      void *context) {
+char *zeli::printPath(const PathLanguage &language, zelPath path, zelHandle handle, std::int32_t flags,
+                      zelAllocFunc alloc, void *context, bool isTransient) {
   if (firstItem(path).atEnd())
     return makeString("", alloc, context);
   const auto isAsked = [flags](int flag) { return (flags & flag) != 0; };
 
-  std::uint32_t mask = target.mask;
+  const ItemPrinter &printer = *language.writer.printer;
+  std::uint32_t mask = printer.mask;
   if (isAsked(ZEL_PRINT_EXPLODE))
-    mask |= target.explodeMask;
+    mask |= printer.explodeMask;
   if (isAsked(ZEL_PRINT_NOREPEAT))
-    mask |= target.noRepeatMask;
+    mask |= printer.noRepeatMask;
   Explosion explosion;
   if (mask != 0)
     setupExplode(explosion, path, mask);
 
   char *result = nullptr;
   if (explosion.isWhole) {
-    PrintRun run(target, path, handle, mask);
+    PrintRun run(language, path, handle, mask, isTransient);
     if (isAsked(ZEL_PRINT_TOP))
       run.set(stateTopOfHierarchy);
     if (isAsked(ZEL_PRINT_GROUP))
       openGroup(run);
     printItems(run, explosion.first);
-    target.printer.finish(run);
+    printer.finish(run);
+    // A handle of FlatTessel, which has no divider, ends a text of levels at the first.
     run.text[run.size] = '\0';
     if (run.isOutOfMemory)
       errno = ENOMEM;

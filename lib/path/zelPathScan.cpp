@@ -1,7 +1,7 @@
-#include "path/scan.h"
+#include "path/zelPathScan.h"
 
 #include "core/byteSet.h"
-#include "core/handle.h"
+#include "path/languages.h"
 
 using namespace zeli;
 
@@ -33,11 +33,19 @@ const char *skipExtended(const char *text) {
   }
 }
 
-// A name in which a backslash takes the next character, whatever it is but the end or a byte of 128 or above.
-const char *skipQuoting(const char *text, const ByteSet &plain) {
+// A name in which a backslash takes the next character, whatever it is but the end or a byte of 128 or above. It ends
+// at the stops of the language and at separators that a file may redefine.
+const char *skipQuoting(const char *text, const PathLanguage &language, zelHandle handle) {
   constexpr ByteSet sevenBit = range(1, 127);
+  const auto [divider, busOpen, busClose] = marksOf(separatingHandle(language, handle), {});
+  ByteSet separators;
+  separators.add(divider);
+  separators.add(busOpen);
+  separators.add(busClose);
+  const ByteSet plain = graphic - language.names.stops - separators;
+  const ByteSet unquoted = plain - chars("\\");
   for (;;) {
-    text = skip(text, plain - chars("\\"));
+    text = skip(text, unquoted);
     if (*text != '\\' || !plain.has(*text))
       return text;
     ++text;
@@ -46,14 +54,12 @@ const char *skipQuoting(const char *text, const ByteSet &plain) {
   }
 }
 
-// Likewise, up to a separator of the handle or the stop of the format.
-const char *skipQuoting(const char *text, zelHandle handle, char stop) {
-  ByteSet stops;
-  stops.add(stop);
-  stops.add(handle->separators.divider);
-  stops.add(handle->separators.busOpen);
-  stops.add(handle->separators.busClose);
-  return skipQuoting(text, graphic - stops);
+// Whether the character at text is escaped by the backslash in front of it, which no other backslash escapes.
+bool isEscaped(const char *start, const char *text) {
+  const char *first = text;
+  while (first != start && first[-1] == '\\')
+    --first;
+  return (text - first) % 2 != 0;
 }
 
 } // namespace
@@ -89,15 +95,11 @@ const char *zeliScanORKA(const char *text, zelHandle) {
   }
 }
 
-const char *zeliScanTessel(const char *text, zelHandle) { return skipQuoting(text, graphic - chars("[]|")); }
-
-const char *zeliScanFlatTessel(const char *text, zelHandle) { return skipQuoting(text, graphic - chars("[]")); }
-
-const char *zeliScanSpice(const char *text, zelHandle) { return skipQuoting(text, graphic - chars(".")); }
-
 const char *zeliScanKirra(const char *text, zelHandle) {
-  constexpr ByteSet plain = graphic - chars(".[]{},\\");
+  constexpr ByteSet brackets = chars("[]{},");
+  constexpr ByteSet plain = graphic - brackets - chars(".\\");
   constexpr ByteSet behindPair = range(1, 127) - chars(".");
+  const char *const start = text;
   for (;;) {
     text = skip(text, plain);
     if (*text != '\\')
@@ -106,20 +108,25 @@ const char *zeliScanKirra(const char *text, zelHandle) {
     if (!graphic.has(*text))
       return text;
     ++text;
-    // One more character goes with the pair, even one that would end the name or begin another pair.
+    // One more character goes with the pair, even one that would end the name or begin another pair. In the latter case
+    // a bracket behind it is escaped, and belongs to the name as well.
     if (behindPair.has(*text))
+      ++text;
+    if (brackets.has(*text) && isEscaped(start, text))
       ++text;
   }
 }
 
-const char *zeliScanLef(const char *text, zelHandle handle) { return skipQuoting(text, handle, ';'); }
+// The scanners of the languages in which a backslash takes the next character: zeliScan<X>.
+#define ZELI_QUOTING_SCANNER(scanner, language)                                                                        \
+  const char *scanner(const char *text, zelHandle handle) { return skipQuoting(text, language, handle); }
 
-const char *zeliScanDef(const char *text, zelHandle handle) { return skipQuoting(text, handle, ';'); }
-
-const char *zeliScanSdf(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
-
-const char *zeliScanSpf(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
-
-const char *zeliScanSpef(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
-
-const char *zeliScanGcf(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
+ZELI_QUOTING_SCANNER(zeliScanTessel, languages::tessel)
+ZELI_QUOTING_SCANNER(zeliScanFlatTessel, languages::flatTessel)
+ZELI_QUOTING_SCANNER(zeliScanSpice, languages::spice)
+ZELI_QUOTING_SCANNER(zeliScanLef, languages::lef)
+ZELI_QUOTING_SCANNER(zeliScanDef, languages::def)
+ZELI_QUOTING_SCANNER(zeliScanSdf, languages::sdf)
+ZELI_QUOTING_SCANNER(zeliScanSpf, languages::spf)
+ZELI_QUOTING_SCANNER(zeliScanSpef, languages::spef)
+ZELI_QUOTING_SCANNER(zeliScanGcf, languages::gcf)

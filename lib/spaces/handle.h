@@ -6,12 +6,12 @@
 #include "spaces/separators.h"
 
 namespace zeli {
-struct VarBits;
+struct PathLanguage;
 } // namespace zeli
 
 struct zelHandleRecord {
   std::int32_t kind; // builtInHandle, or madeHandle for one that is freed
-  const zeli::VarBits *varBits;
+  const zeli::PathLanguage *language;
   zeli::Separators separators; // in force
 
   // The rules of the space's names under these separators, made once; null for the built-in ones.

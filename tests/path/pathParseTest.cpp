@@ -16,7 +16,8 @@ void expectParsed(const char *table) {
 }
 
 // Only a blank between names is refused; the comma is taken right behind an open bracket; a number counts only in front
-// of a brace.
+// of a brace. The Kirra character behind an escaped one is taken untested: an escaped bracket there is part of the
+// name, a divider never, and a bracket behind two backslashes is not escaped.
 TEST(PathParse, Verilog) {
   expectParsed(R"(
       Verilog VerilogAMS Kirra KirraHDL → ␣␉␣→ ␣a␣.␣b␣→a·b|H a.→a|EH .a→|E a..b→a|EH a␣b→a·b|E aé→a|E
@@ -29,7 +30,9 @@ TEST(PathParse, Verilog) {
       Verilog VerilogAMS \a.b␣.c→\a.b␣·c|H \a+b␉→\a+b␉ a$1._→a$1·_|H \a.b␣c→\a.b␣·c|E \ab→|E \aé␣→|E analog→analog
       a.module→a|EH $a→|E a(3)→a|E a:b→a|E a[1].3b→a·[1]|EHIm
       KirraHDL \a$b␣.c→\a$b␣·c|H a$b→a|E a.module→a|EH
-      Kirra a\.b.c→a\.b·c|H a\[3\]→a\[3\] \+a[3]→\+a·[3]|I a\+[3]→|E a!.b[0:3]→a!·b·[0:3]|HR a.model→a|EH a(3)→|E a\→|E)");
+      Kirra a\.b.c→a\.b·c|H a\[3\]→a\[3\] \+a[3]→\+a·[3]|I a\+[3]→|E a!.b[0:3]→a!·b·[0:3]|HR a.model→a|EH a(3)→|E a\→|E
+      Table\[0\]\[2\].x→Table\[0\]\[2\]·x|H \{\,\}\,[3]→\{\,\}\,·[3]|I a\[0\][3]→|E a\+\[3.b→a\+\[3·b|H a\+\[3]→a\+\[3|E
+      a\+\+[3]→a\+\+·[3]|I a\+\\\\[3]→a\+\\\\·[3]|I a\+\.b→|E)");
 }
 
 // The direction word does not count; the blank in "(3 )" takes the bracket with it; the character behind '&' goes

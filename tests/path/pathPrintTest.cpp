@@ -77,6 +77,7 @@ TEST(PathPrint, Names) {
       VHDL> ORKA Sdf Verilog @l.c(v):a→a @c→ Verilog :Top:\a␣b\(3)→top.\a#20b␣[3]
             VHDL @l.c(v)→@l.c(v) @l.c→@l.c @c→@c a@l.c(v)→a@l.c(v) @l.c:a→@l.c:a a&&@c→a&&@c
       Verilog> VHDL \a+b␣.A.c→:\a+b\:\A\:c Spice> Verilog a_3.b→a_3.b a[3]→\a[3]␣ Tessel a[3]→a\[3\]
+      Verilog> Kirra \Table[0][2]␣.x→Table\[0\]\[2\].x Kirra> Verilog Table\[0\]\[2\].x→\Table[0][2]␣.x
       Kirra> Kirra a\.b.c→a\.b.c KirraHDL> KirraHDL \a+b␣.c→\a+b␣.c
       VHDL87> VHDL quantity:b→:quantity:b VHDLAMS> VHDL quantity:b→::b VerilogAMS> VHDL analog.b→::b
       built> Verilog Sa·-·Sb→a..b ORKA Sa·S·Sb→a//b Sdf Xa·[3]·Sb→[3]/b VHDL -·Sb→b @Sl.Sc(Sv)·Sa→@l.c(v):a

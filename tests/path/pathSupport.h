@@ -3,9 +3,8 @@
 #ifndef PATH_SUPPORT_H
 #define PATH_SUPPORT_H
 
-#include "core/handle.h"
-#include "path/chunk.h"
-#include "path/language.h"
+#include "path/languages.h"
+#include "path/zelPath.h"
 #include "support/rules.h"
 
 #include <cstdio>
@@ -37,7 +36,7 @@ inline PathSpace spaceAt(const std::string &head) {
   const std::size_t end = std::min(head.find_first_of(".:1x\\"), head.size());
   const std::string name = head.substr(0, end);
   const auto separator = [&](std::size_t i) { return end + i < head.size() ? std::uint32_t(head[end + i]) : 0U; };
-  const zeli::VarBits &space = *zelGetHandle(name.c_str(), 0, 0, 0, 0)->varBits;
+  const zeli::PathLanguage &space = *zelGetHandle(name.c_str(), 0, 0, 0, 0)->language;
   if (end != head.size() && made[head] == nullptr)
     made[head].reset(zelGetHandle(name.c_str(), 0, separator(0), separator(1), separator(2)));
   return {space.parse, space.print, made[head].get()};
@@ -59,7 +58,7 @@ inline std::string identAt(zelPath path) {
   if (!zeli::isText(kind))
     return resultOf(zelPathGetIdent(path)).value_or("-");
   const char *const text = chunk->slots[zeli::slotOf(kind)].string;
-  const std::string name(text, zeli::languageOf(path)->scan(text, path->handle));
+  const std::string name(text, zeli::languageOf(path)->names.scan(text, path->handle));
   const char *end = nullptr;
   const char *const shown = zelPathGetString(path, &end);
   EXPECT_TRUE(shown == nullptr || std::string(shown, end) == name);

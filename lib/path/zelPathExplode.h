@@ -1,34 +1,35 @@
 // Expanding the item forms that a target cannot write: index lists, index repeats, step ranges, and ranges when single
 // bits are wanted. Each becomes a node that enumerates its values from the path's own bytes, and a name is written
 // once for every combination of the values of its nodes.
-#ifndef ZEL_PATH_EXPLODE_H
-#define ZEL_PATH_EXPLODE_H
+#ifndef ZEL_PATH_ZELPATHEXPLODE_H
+#define ZEL_PATH_ZELPATHEXPLODE_H
 
-#include "path/chunk.h"
+#include "path/zelPath.h"
 
 namespace zeli {
 
 // Which forms to expand.
 enum ExplodeMask : std::uint32_t {
-  EXPLODE_GROUP_REPEAT = 1, // marked only: a group is never multiplied out
-  EXPLODE_RANGE = 2,
-  EXPLODE_STEP = 4,
-  EXPLODE_MULTI = 8,         // an index directly followed by another
-  EXPLODE_INDEX_REPEAT = 16, // an index directly followed by a repeat
-  EXPLODE_ALL = 31
+  explodeGroupRepeat = 1, // marked only: a group is never multiplied out
+  explodeRange = 2,
+  explodeStep = 4,
+  explodeMulti = 8,        // an index directly followed by another
+  explodeIndexRepeat = 16, // an index directly followed by a repeat
+  explodeAll = 31
 };
 
 enum class NodeKind { groupRepeat, range, step, list, repeat };
 
-struct explNode {
+struct ExplosionNode {
   NodeKind kind;
-  explNode *next;   // in path order: of the path's nodes, or inside the parent
-  explNode *prev;   // likewise
-  explNode *child;  // of a list, the first element that has a node; of a repeat, what it repeats
-  explNode *parent; // the list or repeat that moves on when this one has run through its values
-  explNode *only; // of a list of one element, or a repeat that repeats nothing: the node that all its values come from
-  explNode *current; // where the current value comes from, of a node of the path; null before the first value
-  explNode *made;    // the node made before, for the release
+  ExplosionNode *next;   // in path order: of the path's nodes, or inside the parent
+  ExplosionNode *prev;   // likewise
+  ExplosionNode *child;  // of a list, the first element that has a node; of a repeat, what it repeats
+  ExplosionNode *parent; // the list or repeat that moves on when this one has run through its values
+  ExplosionNode
+      *only; // of a list of one element, or a repeat that repeats nothing: the node that all its values come from
+  ExplosionNode *current; // where the current value comes from, of a node of the path; null before the first value
+  ExplosionNode *made;    // the node made before, for the release
 
   Cursor start; // where the name begins that is written for every value
   Cursor item;  // the item whose value varies (none in a group repeat)
@@ -37,7 +38,7 @@ struct explNode {
   // The place in the enumeration.
   std::int32_t counter; // range, step, repeat
   Cursor element;       // list: the current element ...
-  explNode *ahead;      // ... and the first child at it or behind it
+  ExplosionNode *ahead; // ... and the first child at it or behind it
 
   Cursor firstElement; // list
   Cursor lastElement;  // list: behind the last one
@@ -46,9 +47,9 @@ struct explNode {
 
 // The nodes of one printing run.
 struct Explosion {
-  explNode *first = nullptr;
-  explNode *last = nullptr;
-  explNode *made = nullptr;
+  ExplosionNode *first = nullptr;
+  ExplosionNode *last = nullptr;
+  ExplosionNode *made = nullptr;
   bool isWhole = true; // false when memory ran out
 };
 
@@ -61,10 +62,10 @@ struct IndexValue {
   Cursor item; // at the end of the path when number holds
   std::int32_t number;
 };
-IndexValue getIndexValue(explNode *node);
+IndexValue getIndexValue(ExplosionNode *node);
 
 // Moves a node to its next value; true when it has run through all of them and stands at the first again.
-bool incrementIndex(explNode *node);
+bool incrementIndex(ExplosionNode *node);
 
 } // namespace zeli
 
