@@ -51,8 +51,10 @@ struct Measured {
   double ratio = 0; // to the floor
 };
 
+constexpr int manyPasses = 31;
+
 // operation(i) does the work for names[i].
-template <typename Operation> Measured measure(const Names &names, Operation operation, int passes = 31) {
+template <typename Operation> Measured measure(const Names &names, Operation operation, int passes = manyPasses) {
   std::vector<double> times;
   std::vector<double> ratios;
   passTime(names, operation); // the first pass warms up and is not counted
