@@ -146,8 +146,7 @@ void PrintRun::putIdent(const Ident &ident) {
   const Operations &names = *language.writer.names;
   Text work;
   const Bytes name = names.write(ident, {.handle = handle}, work);
-  if (names.currentHandle != nullptr)
-    names.currentHandle() = nullptr; // as at the end of every call with a handle
+  leaveHandle(names);
   if (name.size() > maxName)
     refuse();
   else if (name.data() != nullptr)
@@ -158,9 +157,11 @@ void PrintRun::putIdent(const char *ident) { putIdent(identOf(ident)); }
 
 void PrintRun::putIdentAt(Cursor cursor) {
   if (isText(cursor.kind()) && isTransient) {
-    const PathLanguage *source = languageOf(path);
+    const PathLanguage &source = *languageOf(path);
     Text work;
-    putIdent(readText(*source, path, cursor.chunk->slots[slotOf(cursor.kind())].string, work));
+    const Ident ident = readText(source, path, cursor.chunk->slots[slotOf(cursor.kind())].string, work);
+    leaveHandle(*source.names.read);
+    putIdent(ident);
     return;
   }
   if (isText(cursor.kind()))

@@ -48,6 +48,12 @@ struct Operations {
   BackslashRules (*rulesUnder)(const Separators &separators) = nullptr; // likewise
 };
 
+// What every call with a handle ends with: the built-in handle is the current one again.
+inline void leaveHandle(const Operations &names) {
+  if (names.currentHandle != nullptr)
+    names.currentHandle() = nullptr;
+}
+
 // The operations of a space whose rules are constant.
 template <const auto &rules>
 constexpr Operations operationsOf = {
