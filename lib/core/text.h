@@ -122,6 +122,7 @@ struct Name : Bytes {
 
   Name() = default;
   explicit Name(Bytes bytes) : Bytes(bytes), look(lookAt(bytes)) {}
+  Name(Bytes bytes, Look known) : Bytes(bytes), look(known) {}
   Name(Bytes bytes, std::uint8_t traits) : Bytes(bytes), look{traits, headWord(bytes.data(), bytes.size())} {}
 
   bool has(std::uint8_t wanted) const { return (look.traits & wanted) != 0; }

@@ -1,70 +1,13 @@
-// The mapping of names and paths between spaces.
-#include "path/zelPathParse.h"
-#include "path/zelPathPrint.h"
+// The mapping of names between spaces.
 #include "spaces/spaces.h"
-
-#include <cstddef>
 
 using namespace zeli;
 
 namespace {
 
-// Memory of a path that lives for one call: small paths fit on the stack.
-struct Arena {
-  std::size_t used = 0;
-  alignas(std::max_align_t) char bytes[4096];
-
-  static void *allocate(std::uint64_t size, void *context) {
-    auto *arena = static_cast<Arena *>(context);
-    const std::uint64_t start = (arena->used + alignof(std::max_align_t) - 1) & ~(alignof(std::max_align_t) - 1);
-    if (size > sizeof arena->bytes || start > sizeof arena->bytes - size)
-      return std::malloc(size);
-    arena->used = start + size;
-    return arena->bytes + start;
-  }
-
-  static void release(void *memory, void *context) {
-    const auto *arena = static_cast<Arena *>(context);
-    const auto address = reinterpret_cast<std::uintptr_t>(memory);
-    const auto begin = reinterpret_cast<std::uintptr_t>(arena->bytes);
-    if (address < begin || address >= begin + sizeof arena->bytes)
-      std::free(memory);
-  }
-};
-
-// The handle of a space in place of a null one; errno tells why there is none.
-zelHandle handleOf(const char *spaceName) {
-  const int error = errno;
-  errno = 0;
-  const zelHandle handle = zelGetHandle(spaceName, 0, 0, 0, 0);
-  if (handle != nullptr)
-    errno = error;
-  else if (errno == 0)
-    errno = EINVAL;
-  return handle;
-}
-
-char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flags, zelAllocFunc alloc, void *context) {
-  if (from == nullptr || to == nullptr)
-    return nullptr;
-  Arena arena;
-  const zelPath path = parsePath(*from->language, text, from, Arena::allocate, &arena);
-  if (path == nullptr)
-    return nullptr;
-  char *result = nullptr;
-  if ((zelPathGetFlag(path) & ZEL_PATH_ERROR) == 0)
-    result =
-        printPath(printingLanguage(*to->language), path, to, static_cast<std::int32_t>(flags), alloc, context, true);
-  zelFreePath(path, Arena::release, &arena);
-  // cppcheck-suppress returnDanglingLifetime ; the result is the caller's memory, not the path's
-  return result;
-}
-
 // Whether a word is a name of both spaces as it stands. In the default mapping state only, which it must not determine.
 bool isPlain(const Name &name, const Operations &from, const Operations &to) {
-  constexpr std::uint64_t forceHead = 0x5F435345;           // "ESC_"
-  constexpr std::uint64_t keywordHead = 0x5F44524F5759454B; // "KEYWORD_"
-  if (!name.isWord() || (name.head() & 0xFFFFFFFF) == forceHead || name.head() == keywordHead ||
+  if (!name.isWord() || hasPrefix(name.head()) ||
       zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
     return false;
   const bool isSensitive = from.plainWords.readAs == 'S' || (from.plainWords.readAs == '\0' && name.has(traitUpper));
@@ -119,21 +62,4 @@ char *zelMapper(zelNameToIdentFunc nameToIdent, zelIdentToNameFunc identToName, 
     return nullptr;
   char ident[maxName + 2];
   return identToName(nameToIdent(name, nullptr, ident), alloc, context);
-}
-
-char *zelPathMapper(const char *text, zelHandle fromHandle, zelHandle toHandle, std::uint32_t flags,
-                    const char *fromName, const char *toName) noexcept {
-  return zelPathMapperEx(text, fromHandle, toHandle, flags, fromName, toName, nullptr, nullptr);
-}
-
-char *zelPathMapperEx(const char *text, zelHandle fromHandle, zelHandle toHandle, std::uint32_t flags,
-                      const char *fromName, const char *toName, zelAllocFunc alloc, void *context) noexcept {
-  const zelHandle from = fromHandle != nullptr ? fromHandle : handleOf(fromName);
-  const zelHandle to = toHandle != nullptr ? toHandle : handleOf(toName);
-  char *result = mapPath(text, from, to, flags, alloc, context);
-  if (fromHandle == nullptr)
-    zelFreeHandle(from);
-  if (toHandle == nullptr)
-    zelFreeHandle(to);
-  return result;
 }

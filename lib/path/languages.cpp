@@ -22,7 +22,7 @@ constexpr PathLanguage verilog = {
     .separators = {'.', '.', '[', ']'},
     .handle = &zelVerilogHandle,
     .names = {.scan = zeliScanVlog, .tested = &verilogNames, .read = &verilogNames},
-    .reader = {.grammar = parseVerilog},
+    .reader = {.grammar = parseVerilog, .marks = {'.', '[', ']'}},
     .writer = {.printer = &bracePrinter, .names = &verilogNames, .marks = {'.', '[', ']'}, .braces = Braces::verilog},
 };
 
@@ -35,8 +35,8 @@ constexpr PathLanguage orka = {
     .separators = {'/', '/', '<', '>'},
     .handle = &zelORKAHandle,
     .names = {.scan = zeliScanORKA, .read = &orkaNames},
-    .reader = {.grammar = parseORKA},
-    .writer = {.printer = &orkaPrinter, .names = &orkaNames},
+    .reader = {.grammar = parseORKA, .marks = {'/', '<', '>'}},
+    .writer = {.printer = &orkaPrinter, .names = &orkaNames, .marks = {'/', '<', '>'}},
 };
 
 constexpr PathLanguage vhdl = {
@@ -48,8 +48,10 @@ constexpr PathLanguage vhdl = {
     .separators = {':', ':', '(', ')'},
     .handle = &zelVHDLHandle,
     .names = {.scan = zeliScanVHDL, .tested = &vhdlNames, .read = &vhdlNames},
-    .reader = {.grammar = parseVHDL},
-    .writer = {.printer = &vhdlPrinter, .names = &vhdlNames},
+    .reader = {.grammar = parseVHDL, .marks = {':', '(', ')'}},
+    .writer = {.printer = &vhdlPrinter, .names = &vhdlNames, .marks = {':', '(', ')'}},
+    .isIntroduced = true,
+    .hasPlainRanges = false,
 };
 
 // Its handle has the separators of netlists, but its paths are Verilog's: tested and printed as such.
@@ -62,7 +64,7 @@ constexpr PathLanguage verilogAMS = {
     .separators = {'/', '/', '<', '>'},
     .handle = &zelVerilogAMSHandle,
     .names = {.scan = zeliScanVlog, .tested = &verilogNames, .read = &verilogAMSNames},
-    .reader = {.grammar = parseVerilog},
+    .reader = {.grammar = parseVerilog, .marks = {'.', '[', ']'}},
     .printedAs = &verilog,
 };
 
@@ -76,8 +78,10 @@ constexpr PathLanguage vhdlAMS = {
     .separators = {':', ':', '(', ')'},
     .handle = &zelVHDLAMSHandle,
     .names = {.scan = zeliScanVHDL, .tested = &vhdlNames, .read = &vhdlAMSNames},
-    .reader = {.grammar = parseVHDL},
+    .reader = {.grammar = parseVHDL, .marks = {':', '(', ')'}},
     .printedAs = &vhdl,
+    .isIntroduced = true,
+    .hasPlainRanges = false,
 };
 
 constexpr PathLanguage tessel = {
@@ -103,7 +107,7 @@ constexpr PathLanguage kirra = {
     .separators = {'/', '/', '[', ']'},
     .handle = &zelKirraHandle,
     .names = {.scan = zeliScanKirra, .tested = &kirraNames, .read = &kirraNames, .showsText = false},
-    .reader = {.grammar = parseVerilog},
+    .reader = {.grammar = parseVerilog, .marks = {'.', '[', ']'}},
     .writer = {.printer = &bracePrinter, .names = &kirraNames, .marks = {'.', '[', ']'}, .braces = Braces::kirra},
 };
 
@@ -116,7 +120,7 @@ constexpr PathLanguage kirraHDL = {
     .separators = {'/', '/', '[', ']'},
     .handle = &zelKirraHDLHandle,
     .names = {.scan = zeliScanKirraHDL, .tested = &kirraHDLNames, .read = &kirraHDLNames, .showsText = false},
-    .reader = {.grammar = parseVerilog},
+    .reader = {.grammar = parseVerilog, .marks = {'.', '[', ']'}},
     .writer = {.printer = &bracePrinter, .names = &kirraHDLNames, .marks = {'.', '[', ']'}, .braces = Braces::kirra},
 };
 
@@ -219,7 +223,7 @@ constexpr PathLanguage spice = {
               .read = &spiceNames,
               .convertsOnRequest = false,
               .showsText = false},
-    .reader = {.grammar = parseSpice},
+    .reader = {.grammar = parseSpice, .marks = {.divider = '.'}},
     .writer = {.printer = &bracePrinter, .names = &spiceNames, .marks = {'.', '[', ']'}},
 };
 
@@ -233,8 +237,10 @@ constexpr PathLanguage vhdl87 = {
     .separators = {':', ':', '(', ')'},
     .handle = &zelVHDL87Handle,
     .names = {.scan = zeliScanVHDL, .tested = &vhdlNames, .read = &vhdl87Names},
-    .reader = {.grammar = parseVHDL},
+    .reader = {.grammar = parseVHDL, .marks = {':', '(', ')'}},
     .printedAs = &vhdl,
+    .isIntroduced = true,
+    .hasPlainRanges = false,
 };
 
 // Reads no divider, but prints one for the levels of other languages.

@@ -46,7 +46,8 @@ struct NameReader {
 // Reads text, from its beginning, into an empty path; returns the path.
 using Grammar = zelPath(zelPath path, const PathLanguage &language, const char *text);
 
-// How its paths are read. Grammars with marks of their own need none here.
+// How its paths are read. The marks are those of all that words need: levels, an index, a range. A grammar may have
+// further ones of its own.
 struct PathReader {
   Grammar *grammar;
   Punctuation marks = {};
@@ -77,6 +78,8 @@ struct PathLanguage {
   PathReader reader;
   PathWriter writer = {};
   const PathLanguage *printedAs = nullptr; // the language whose printer its handles have, if not its own
+  bool isIntroduced = false;               // a divider stands in front of the first of several levels
+  bool hasPlainRanges = true;              // a range is two numbers and a ':'
 };
 
 inline const PathLanguage &printingLanguage(const PathLanguage &language) {

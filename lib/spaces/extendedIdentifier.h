@@ -45,10 +45,11 @@ struct ExtendedIdentifierRules {
   HexEscape escape; // its literal bytes are the ones that may stand in an extended identifier
   Spelling spelling;
   bool (*isKeyword)(const Name &word);
+  bool (*isSettled)() = nullptr; // see PlainWords
 
   constexpr PlainWords plainWords() const {
     constexpr std::uint8_t never = traitDigitFirst | traitUnderscoreFirst | traitUnderscoreLast | traitTwoUnderscores;
-    return {never, never | traitUpper, never, 'I', isKeyword};
+    return {never, never | traitUpper, never, 'I', isKeyword, isSettled};
   }
 
   bool isNormal(const Name &name) const;

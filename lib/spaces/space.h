@@ -6,6 +6,13 @@
 
 namespace zeli {
 
+// Whether a word begins with a prefix that some space uses, by its head.
+constexpr bool hasPrefix(std::uint64_t head) {
+  constexpr std::uint64_t forceHead = 0x5F435345;           // "ESC_"
+  constexpr std::uint64_t keywordHead = 0x5F44524F5759454B; // "KEYWORD_"
+  return (head & 0xFFFFFFFF) == forceHead || head == keywordHead;
+}
+
 // What a conversion depends on beside the name.
 struct Setting {
   std::int32_t mapState = ZEL_MAP_UNSET; // ZEL_MAP_UNSET stands for that of the process
@@ -31,6 +38,7 @@ struct PlainWords {
   std::uint8_t notWrittenInsensitive;
   char readAs; // the marker of their Idents; NUL where it depends on capitals
   bool (*isKeyword)(const Name &word) = nullptr;
+  bool (*isSettled)() = nullptr; // whether isKeyword depends on nothing that its first call determines
 };
 constexpr PlainWords anyWord = {0, 0, traitUpper, '\0'};
 

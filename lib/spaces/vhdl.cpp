@@ -80,7 +80,9 @@ bool isKeyword(const Name &word) {
   return keywordTable.hasFolded(word) && !(isVHDL87 && isIn93(word));
 }
 
-constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword);
+bool isSettled() { return vhdlMode() != 0 || environmentMode.load(std::memory_order_relaxed) != unread; }
+
+constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword, isSettled);
 
 } // namespace
 

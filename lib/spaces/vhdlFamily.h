@@ -6,9 +6,9 @@
 
 namespace zeli {
 
-constexpr ExtendedIdentifierRules vhdlFamily(bool (*isKeyword)(const Name &word)) {
+constexpr ExtendedIdentifierRules vhdlFamily(bool (*isKeyword)(const Name &word), bool (*isSettled)() = nullptr) {
   constexpr HexEscape escape = {'#', graphic | chars(" ")};
-  return {letter, wordChar, escape, spellingExtended(escape), isKeyword};
+  return {letter, wordChar, escape, spellingExtended(escape), isKeyword, isSettled};
 }
 
 } // namespace zeli
