@@ -53,6 +53,9 @@ struct Explosion {
   bool isWhole = true; // false when memory ran out
 };
 
+// Whether a path has anything that the mask may expand. A path without needs no setup.
+bool isExpanded(const zelPathRecord *path, std::uint32_t mask);
+
 // Finds what the mask expands. Ends the process when a bracketed index list stands where it cannot be expanded.
 void setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask);
 void freeExpl(Explosion &explosion);
@@ -66,6 +69,20 @@ IndexValue getIndexValue(ExplosionNode *node);
 
 // Moves a node to its next value; true when it has run through all of them and stands at the first again.
 bool incrementIndex(ExplosionNode *node);
+
+// Whether the values of a node are those of a range or step range alone: numbers at equal distances.
+bool hasNumbers(const ExplosionNode *node);
+
+// The numbers of such a node that are still to come, from the one that it stands at.
+struct NodeValues {
+  std::int64_t next;
+  std::int64_t step; // to the next value
+  std::int64_t last;
+  bool isRising; // whether values end above last, or below it
+
+  bool areOver() const { return isRising ? next > last : next < last; }
+};
+NodeValues valuesFrom(const ExplosionNode *node);
 
 } // namespace zeli
 

@@ -29,6 +29,8 @@ struct PrintRun {
   std::uint32_t state;
   bool isOutOfMemory = false;
   std::size_t size = 0;
+  std::size_t numberStart = 0; // of the last number
+  std::size_t numberEnd = 0;
   char text[2 * (maxName + 1) + 64];
 
   PrintRun(const PathLanguage &target, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask);

@@ -140,6 +140,27 @@ TEST(PathExplode, Enumerations) {
   EXPECT_EQ(mapped("ORKA", "a<0*124>", "Verilog"), "a[0]" + repeated(",a[0]", 124));
 }
 
+// The bits of a range, as many as a text holds, in names short and long, alone or with a level or an outer range.
+TEST(PathExplode, EveryValueUpToTheLimit) {
+  for (const std::size_t length : {1U, 7U, 16U, 40U, 300U, 680U, 1020U, 2030U})
+    for (const std::string behind : {"", ".b"})
+      for (const int outer : {-1, 0, 2}) {
+        const std::string name(length, 'n');
+        std::string all;
+        for (int last = 0; all.size() <= ZEL_MAX_NAME; last += last < 12 ? 1 : 7) {
+          all.clear();
+          for (int i = 0; i <= std::max(outer, 0); ++i)
+            for (int bit = 0; bit <= last; ++bit)
+              all.append(all.empty() ? "" : ",")
+                  .append(outer < 0 ? "" : "a[" + std::to_string(i) + "].")
+                  .append(name + '[' + std::to_string(bit) + ']' + behind);
+          const std::string range = outer < 0 ? "" : "a[0:" + std::to_string(outer) + "].";
+          EXPECT_EQ(mapped("Verilog", range + name + "[0:" + std::to_string(last) + ']' + behind, "Verilog", explode),
+                    all.size() <= ZEL_MAX_NAME ? all : "EINVAL");
+        }
+      }
+}
+
 // Groups stay as they are, and so does what is in them when they are to be expanded.
 TEST(PathExplode, GroupRepeats) {
   const std::string kept = R"(<*2>a<1:0>,b<1:0>→2{a[1:0]}},b[1],b[0] <*2>(a<1:0>,b<1:0>)→2{a[1:0],b[1],b[0]}
