@@ -22,12 +22,11 @@ enum class NodeKind { groupRepeat, range, step, list, repeat };
 
 struct ExplosionNode {
   NodeKind kind;
-  ExplosionNode *next;   // in path order: of the path's nodes, or inside the parent
-  ExplosionNode *prev;   // likewise
-  ExplosionNode *child;  // of a list, the first element that has a node; of a repeat, what it repeats
-  ExplosionNode *parent; // the list or repeat that moves on when this one has run through its values
-  ExplosionNode
-      *only; // of a list of one element, or a repeat that repeats nothing: the node that all its values come from
+  ExplosionNode *next;    // in path order: of the path's nodes, or inside the parent
+  ExplosionNode *prev;    // likewise
+  ExplosionNode *child;   // of a list, the first element that has a node; of a repeat, what it repeats
+  ExplosionNode *parent;  // the list or repeat that moves on when this one has run through its values
+  ExplosionNode *only;    // of a list of one element, or a repeat that repeats nothing: where all its values come from
   ExplosionNode *current; // where the current value comes from, of a node of the path; null before the first value
   ExplosionNode *made;    // the node made before, for the release
 

@@ -145,18 +145,19 @@ TEST(PathExplode, EveryValueUpToTheLimit) {
   for (const std::size_t length : {1U, 7U, 16U, 40U, 300U, 680U, 1020U, 2030U})
     for (const std::string behind : {"", ".b"})
       for (const int outer : {-1, 0, 2}) {
-        const std::string name(length, 'n');
+        const auto write = [&](const std::string &outerIndex, const std::string &index) {
+          std::string text = outer < 0 ? "" : "a[";
+          text.append(outer < 0 ? "" : outerIndex).append(outer < 0 ? "" : "].");
+          return text.append(length, 'n').append("[").append(index).append("]").append(behind);
+        };
         std::string all;
         for (int last = 0; all.size() <= ZEL_MAX_NAME; last += last < 12 ? 1 : 7) {
           all.clear();
           for (int i = 0; i <= std::max(outer, 0); ++i)
             for (int bit = 0; bit <= last; ++bit)
-              all.append(all.empty() ? "" : ",")
-                  .append(outer < 0 ? "" : "a[" + std::to_string(i) + "].")
-                  .append(name + '[' + std::to_string(bit) + ']' + behind);
-          const std::string range = outer < 0 ? "" : "a[0:" + std::to_string(outer) + "].";
-          EXPECT_EQ(mapped("Verilog", range + name + "[0:" + std::to_string(last) + ']' + behind, "Verilog", explode),
-                    all.size() <= ZEL_MAX_NAME ? all : "EINVAL");
+              all.append(all.empty() ? "" : ",").append(write(std::to_string(i), std::to_string(bit)));
+          const std::string text = write("0:" + std::to_string(outer), "0:" + std::to_string(last));
+          EXPECT_EQ(mapped("Verilog", text, "Verilog", explode), all.size() <= ZEL_MAX_NAME ? all : "EINVAL");
         }
       }
 }
