@@ -170,12 +170,10 @@ zelPath zeliPathAdd(zelPath chunk, std::size_t bytesNeeded, std::size_t slotsNee
   return behind;
 }
 
-std::uint8_t zeliPrevItem(zelPath head, zelPath chunk, std::size_t position, zelPath *found) {
-  if (position == 0) {
-    const zelPath previous = chunk == head ? nullptr : chunk->previous;
-    if (previous != nullptr)
-      chunk = previous;
-    position = previous == nullptr ? 0 : chunk->used;
+std::uint8_t zeliPrevItem(const zelPathRecord *head, zelPath chunk, std::size_t position, zelPath *found) {
+  if (position == 0 && chunk != head && chunk->previous != nullptr) {
+    chunk = chunk->previous;
+    position = chunk->used;
   }
   *found = chunk;
   while (position > 0) {

@@ -181,6 +181,6 @@ zelPath zeliPathAdd(zelPath chunk, std::size_t bytesNeeded, std::size_t slotsNee
 
 // The kind of the item that ends before a position of a chunk, which *found reports; at position 0 the last item of the
 // chunk before it. kindNone when there is none.
-std::uint8_t zeliPrevItem(zelPath head, zelPath chunk, std::size_t position, zelPath *found);
+std::uint8_t zeliPrevItem(const zelPathRecord *head, zelPath chunk, std::size_t position, zelPath *found);
 
 #endif

@@ -212,15 +212,14 @@ ExplosionNode *active(ExplosionNode *node) {
   }
 }
 
-std::int64_t valueAt(const ExplosionNode *node, std::int64_t counter) {
+// The values of a range or step range from the one that its counter gives.
+NodeValues valuesAt(const ExplosionNode *node, std::int64_t counter) {
   const std::int64_t first = node->item.number(0);
+  const std::int64_t last = node->item.number(1);
   const std::int64_t step = node->kind == NodeKind::step ? node->item.number(2) : 1;
-  return first < node->item.number(1) ? first + counter * step : first - counter * step;
-}
-
-bool hasPassed(const ExplosionNode *node, std::int64_t value) {
-  const std::int32_t last = node->item.number(1);
-  return node->item.number(0) < last ? value > last : value < last;
+  const bool isRising = first < last;
+  const std::int64_t signedStep = isRising ? step : -step;
+  return {first + counter * signedStep, signedStep, last, isRising};
 }
 
 // A bracket that a cut path ends in.
@@ -233,7 +232,7 @@ bool advance(ExplosionNode *node) {
   switch (node->kind) {
   case NodeKind::range:
   case NodeKind::step:
-    if (!hasPassed(node, valueAt(node, ++node->counter)))
+    if (!valuesAt(node, ++node->counter).areOver())
       return false;
     node->counter = 0;
     return true;
@@ -265,6 +264,32 @@ bool advance(ExplosionNode *node) {
 }
 
 } // namespace
+
+bool zeli::isExpanded(const zelPathRecord *path, std::uint32_t mask) {
+  bool isBehindIndex = false;
+  for (const zelPathRecord *chunk = path; chunk != nullptr && chunk->used != 0; chunk = chunk->next)
+    for (std::size_t position = 0; position < chunk->used;) {
+      const std::uint8_t kind = chunk->items[position];
+      position += itemSize(kind);
+      std::uint32_t forms = 0;
+      if (isForm(kind, kindRange))
+        forms = explodeRange;
+      else if (isForm(kind, kindStepRange))
+        forms = explodeStep;
+      else if (isForm(kind, kindGroupRepeat))
+        forms = explodeGroupRepeat;
+      else if (isForm(kind, kindIndexRepeat))
+        forms = explodeIndexRepeat;
+      else if (isIndexLike(kind) && !isAnyIndex(kind))
+        forms = explodeAll; // a bracket may also be illegal
+      if (isAnyIndex(kind) && isBehindIndex)
+        forms |= explodeMulti;
+      if ((forms & mask) != 0)
+        return true;
+      isBehindIndex = isAnyIndex(kind);
+    }
+  return false;
+}
 
 void zeli::setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask) {
   // The first identifier of the name being read is the anchor of its nodes.
@@ -344,7 +369,7 @@ IndexValue zeli::getIndexValue(ExplosionNode *node) {
     return {node->item, 0};
   case NodeKind::range:
   case NodeKind::step:
-    return {{}, static_cast<std::int32_t>(valueAt(node, node->counter))};
+    return {{}, static_cast<std::int32_t>(valuesAt(node, node->counter).next)};
   case NodeKind::groupRepeat:
     break;
   }
@@ -363,3 +388,9 @@ bool zeli::incrementIndex(ExplosionNode *node) {
   node->current = active(inner);
   return carries;
 }
+
+bool zeli::hasNumbers(const ExplosionNode *node) {
+  return node->kind == NodeKind::range || node->kind == NodeKind::step;
+}
+
+NodeValues zeli::valuesFrom(const ExplosionNode *node) { return valuesAt(node, node->counter); }

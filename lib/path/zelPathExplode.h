@@ -22,12 +22,11 @@ enum class NodeKind { groupRepeat, range, step, list, repeat };
 
 struct ExplosionNode {
   NodeKind kind;
-  ExplosionNode *next;   // in path order: of the path's nodes, or inside the parent
-  ExplosionNode *prev;   // likewise
-  ExplosionNode *child;  // of a list, the first element that has a node; of a repeat, what it repeats
-  ExplosionNode *parent; // the list or repeat that moves on when this one has run through its values
-  ExplosionNode
-      *only; // of a list of one element, or a repeat that repeats nothing: the node that all its values come from
+  ExplosionNode *next;    // in path order: of the path's nodes, or inside the parent
+  ExplosionNode *prev;    // likewise
+  ExplosionNode *child;   // of a list, the first element that has a node; of a repeat, what it repeats
+  ExplosionNode *parent;  // the list or repeat that moves on when this one has run through its values
+  ExplosionNode *only;    // of a list of one element, or a repeat that repeats nothing: where all its values come from
   ExplosionNode *current; // where the current value comes from, of a node of the path; null before the first value
   ExplosionNode *made;    // the node made before, for the release
 
@@ -53,6 +52,9 @@ struct Explosion {
   bool isWhole = true; // false when memory ran out
 };
 
+// Whether a path has anything that the mask may expand. A path without needs no setup.
+bool isExpanded(const zelPathRecord *path, std::uint32_t mask);
+
 // Finds what the mask expands. Ends the process when a bracketed index list stands where it cannot be expanded.
 void setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask);
 void freeExpl(Explosion &explosion);
@@ -66,6 +68,20 @@ IndexValue getIndexValue(ExplosionNode *node);
 
 // Moves a node to its next value; true when it has run through all of them and stands at the first again.
 bool incrementIndex(ExplosionNode *node);
+
+// Whether the values of a node are those of a range or step range alone: numbers at equal distances.
+bool hasNumbers(const ExplosionNode *node);
+
+// The numbers of such a node that are still to come, from the one that it stands at.
+struct NodeValues {
+  std::int64_t next;
+  std::int64_t step; // to the next value
+  std::int64_t last;
+  bool isRising; // whether values end above last, or below it
+
+  bool areOver() const { return isRising ? next > last : next < last; }
+};
+NodeValues valuesFrom(const ExplosionNode *node);
 
 } // namespace zeli
 

@@ -25,37 +25,60 @@ bool endsName(std::uint8_t kind) {
   }
 }
 
-// The text of a name in front of its first node's item, which is the same for every combination that begins in the same
-// state. Kept so that its identifiers are not written anew for every bit.
-struct Prefix {
+// Writes the decimal digits of a number, and returns where they end.
+char *writeNumber(char *out, std::int32_t number) {
+  auto magnitude = static_cast<std::uint32_t>(number);
+  if (number < 0) {
+    *out++ = '-';
+    magnitude = 0 - magnitude;
+  }
+  std::size_t count = 1;
+  for (std::uint64_t limit = 10; magnitude >= limit; limit *= 10)
+    ++count;
+  for (char *at = out + count; at != out; magnitude /= 10)
+    *--at = static_cast<char>('0' + magnitude % 10);
+  return out + count;
+}
+
+// What is kept of a combination for the next: the text in front of the last node's item, which is the same as long as
+// no other node moves on and combinations begin in the same state, so that identifiers are not written anew for every
+// bit; and where the last node's number stands.
+struct Combination {
   bool isKnown = false;
   std::uint32_t startState = 0;
   std::uint32_t endState = 0;
-  Bytes text;
+  Bytes prefix;
+  std::size_t numberStart = 0;
+  std::size_t numberEnd = 0;
 };
 
 // Writes one combination: the name from its start, each node's item replaced by the node's value. Returns where the
 // name ended.
-Cursor printCombination(PrintRun &run, ExplosionNode *first, const ExplosionNode *last, Prefix &prefix) {
+Cursor printCombination(PrintRun &run, ExplosionNode *first, ExplosionNode *last, Combination &known) {
   run.guard();
   const std::uint32_t startState = run.state;
   const std::size_t startSize = run.size;
   ExplosionNode *node = first;
   Cursor cursor = first->start;
-  if (prefix.isKnown && prefix.startState == startState) {
-    run.put(prefix.text);
-    run.state = prefix.endState;
-    cursor = first->item;
+  if (known.isKnown && known.startState == startState) {
+    run.put(known.prefix);
+    run.state = known.endState;
+    cursor = last->item;
+    node = last;
   }
   while (!cursor.atEnd()) {
     if (node != nullptr && node->item == cursor) {
-      if (node == first)
-        prefix = {true, startState, run.state, {run.text + startSize, run.size - startSize}};
+      if (node == last)
+        known = {true, startState, run.state, {run.text + startSize, run.size - startSize}};
       const IndexValue value = getIndexValue(node);
       if (value.item.atEnd())
         run.value(value.number);
       else
         run.item(value.item);
+      if (node == last) {
+        known.numberStart = run.numberStart;
+        known.numberEnd = run.numberEnd;
+      }
       cursor = node->end;
       node = node == last ? nullptr : node->next;
       continue;
@@ -68,20 +91,51 @@ Cursor printCombination(PrintRun &run, ExplosionNode *first, const ExplosionNode
   return cursor;
 }
 
+// Writes the combinations behind two that began in the same state: what stands between their numbers stands in front of
+// each further one, too.
+void repeatCombination(PrintRun &run, std::size_t numberEnd, const Combination &known, NodeValues values) {
+  constexpr std::size_t block = 16;
+  char between[maxName + block];
+  const std::size_t size = known.numberStart - numberEnd;
+  std::memcpy(between, run.text + numberEnd, size);
+  // It begins with the end of a name, which is taken back here.
+  const Bytes nameEnd = {between, run.size - known.numberEnd};
+  char *end = run.text + known.numberEnd;
+  const char *const longest = run.text + maxName;
+  for (; !values.areOver() && end <= longest; values.next += values.step) {
+    for (std::size_t at = 0; at < size; at += block)
+      std::memcpy(end + at, between + at, block);
+    end = writeNumber(end + size, static_cast<std::int32_t>(values.next));
+  }
+  run.size = static_cast<std::size_t>(end - run.text);
+  run.guard();
+  run.put(nameEnd);
+}
+
 // Writes a name once for every combination of the values of its nodes, the last node varying fastest. Gives up once the
 // text is over-long, so that an enumeration without end does end.
 Cursor walkIndex(PrintRun &run, ExplosionNode *first) {
   ExplosionNode *last = first;
   while (last->next != nullptr && last->next->start == first->start)
     last = last->next;
-  Prefix prefix;
+  Combination known;
   for (;;) {
-    const Cursor end = printCombination(run, first, last, prefix);
+    const bool isLikeLast = known.isKnown && known.startState == run.state;
+    const std::size_t lastNumberEnd = known.numberEnd;
+    const Cursor end = printCombination(run, first, last, known);
     ExplosionNode *node = last;
-    while (incrementIndex(node)) {
+    bool carries = incrementIndex(node);
+    if (!carries && isLikeLast && hasNumbers(last) && !run.isOverlong()) {
+      repeatCombination(run, lastNumberEnd, known, valuesFrom(last));
+      last->counter = 0;
+      carries = true;
+    }
+    while (carries) {
       if (node == first)
         return end;
+      known.isKnown = false;
       node = node->prev;
+      carries = incrementIndex(node);
     }
     if (run.isOverlong())
       return end;
@@ -122,19 +176,8 @@ PrintRun::PrintRun(const PathLanguage &target, zelPath printedPath, zelHandle gi
       marks(marksOf(handle, target.writer.marks)), state(mask), isTransient(isTransientPath) {}
 
 void PrintRun::putNumber(std::int32_t number) {
-  if (number < 0)
-    put('-');
-  auto magnitude = static_cast<std::uint32_t>(number);
-  if (number < 0)
-    magnitude = 0 - magnitude;
-  char digits[10];
-  char *const end = std::end(digits);
-  char *first = end;
-  do {
-    *--first = static_cast<char>('0' + magnitude % 10);
-    magnitude /= 10;
-  } while (magnitude != 0);
-  put(Bytes{first, static_cast<std::size_t>(end - first)});
+  numberStart = size;
+  numberEnd = size = static_cast<std::size_t>(writeNumber(text + size, number) - text);
 }
 
 void PrintRun::putIdent(const Ident &ident) {
@@ -201,7 +244,7 @@ char *zeli::printPath(const PathLanguage &language, zelPath path, zelHandle hand
   if (isAsked(ZEL_PRINT_NOREPEAT))
     mask |= printer.noRepeatMask;
   Explosion explosion;
-  if (mask != 0)
+  if (mask != 0 && isExpanded(path, mask))
     setupExplode(explosion, path, mask);
 
   char *result = nullptr;

@@ -30,6 +30,8 @@ struct PrintRun {
   bool isOutOfMemory = false;
   bool isTransient; // nobody will ask the path for the Idents of its names
   std::size_t size = 0;
+  std::size_t numberStart = 0; // of the last number
+  std::size_t numberEnd = 0;
   char text[2 * (maxName + 1) + 64];
 
   PrintRun(const PathLanguage &target, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask,
