@@ -65,22 +65,24 @@ zelHandle zelAllocHandle(const char *spaceName, std::uint32_t pinDelimiter, std:
   if (chosen.busClose == '\0')
     chosen.busClose = defaults.busClose;
 
-  // The rules of names under these separators lie behind the record.
+  // What names are under these separators lies behind the record.
   struct Made {
     zelHandleRecord record;
+    ByteSet pathNameBytes;
     BackslashRules rules;
   };
-  const Operations *names = spaceOf(language->space).names;
-  void *memory = std::malloc(names->rulesUnder != nullptr ? sizeof(Made) : sizeof(zelHandleRecord));
+  const Operations *names = language->names.read;
+  void *memory = std::malloc(isFlat ? sizeof(zelHandleRecord) : sizeof(Made));
   if (memory == nullptr) {
     errno = ENOMEM;
     return nullptr;
   }
-  const zelHandleRecord record = {madeHandle, language, chosen, names, nullptr};
-  if (names->rulesUnder == nullptr)
+  const zelHandleRecord record = {madeHandle, language, chosen, names, nullptr, &language->names.pathNameBytes};
+  if (isFlat)
     return new (memory) zelHandleRecord(record);
-  auto *made = new (memory) Made{record, names->rulesUnder(chosen)};
+  auto *made = new (memory) Made{record, pathNameBytes(language->names.stops, chosen), names->rulesUnder(chosen)};
   made->record.rules = &made->rules;
+  made->record.pathNameBytes = &made->pathNameBytes;
   return &made->record;
 }
 

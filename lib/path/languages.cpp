@@ -92,7 +92,7 @@ constexpr PathLanguage tessel = {
     .print = zelPathToTesselEx,
     .separators = {'|', '|', '[', ']'},
     .handle = &zelTesselHandle,
-    .names = {.scan = zeliScanTessel, .stops = chars("[]|"), .read = &tesselNames},
+    .names = {.scan = zeliScanTessel, .pathNameBytes = graphic - chars("[]|"), .read = &tesselNames},
     .reader = {.grammar = parseBus, .marks = {'|', '[', ']'}, .busNeedsName = true},
     .writer = {.printer = &bracePrinter, .names = &tesselNames, .marks = {'|', '[', ']'}, .marksLeading = true},
 };
@@ -134,7 +134,7 @@ constexpr PathLanguage lef = {
     .separators = lefSeparators,
     .handle = &zelLefHandle,
     .redefines = Redefines::everything,
-    .names = {.scan = zeliScanLef, .stops = chars(";"), .tested = &lefNames, .read = &lefNames},
+    .names = {.scan = zeliScanLef, .stops = ";", .pathNameBytes = pathNameBytes(";", lefSeparators), .tested = &lefNames, .read = &lefNames},
     .reader = {.grammar = parseBus},
     .writer = {.printer = &bracePrinter, .names = &lefNames, .marksLeading = true},
 };
@@ -148,7 +148,7 @@ constexpr PathLanguage def = {
     .separators = defSeparators,
     .handle = &zelDefHandle,
     .redefines = Redefines::everything,
-    .names = {.scan = zeliScanDef, .stops = chars(";"), .tested = &defNames, .read = &defNames},
+    .names = {.scan = zeliScanDef, .stops = ";", .pathNameBytes = pathNameBytes(";", defSeparators), .tested = &defNames, .read = &defNames},
     .reader = {.grammar = parseBus},
     .writer = {.printer = &bracePrinter, .names = &defNames, .marksLeading = true},
 };
@@ -162,7 +162,7 @@ constexpr PathLanguage sdf = {
     .separators = sdfSeparators,
     .handle = &zelSdfHandle,
     .redefines = Redefines::everything,
-    .names = {.scan = zeliScanSdf, .stops = chars(":"), .read = &sdfNames},
+    .names = {.scan = zeliScanSdf, .stops = ":", .pathNameBytes = pathNameBytes(":", sdfSeparators), .read = &sdfNames},
     .reader = {.grammar = parseBus},
     .writer = {.printer = &bracePrinter, .names = &sdfNames, .marksLeading = true},
 };
@@ -176,7 +176,7 @@ constexpr PathLanguage spf = {
     .separators = spfSeparators,
     .handle = &zelSpfHandle,
     .redefines = Redefines::everything,
-    .names = {.scan = zeliScanSpf, .stops = chars(":"), .read = &spfNames},
+    .names = {.scan = zeliScanSpf, .stops = ":", .pathNameBytes = pathNameBytes(":", spfSeparators), .read = &spfNames},
     .reader = {.grammar = parseBus},
     .writer = {.printer = &bracePrinter, .names = &spfNames, .marksLeading = true},
 };
@@ -190,7 +190,7 @@ constexpr PathLanguage spef = {
     .separators = spefSeparators,
     .handle = &zelSpefHandle,
     .redefines = Redefines::everything,
-    .names = {.scan = zeliScanSpef, .stops = chars(":"), .read = &spefNames},
+    .names = {.scan = zeliScanSpef, .stops = ":", .pathNameBytes = pathNameBytes(":", spefSeparators), .read = &spefNames},
     .reader = {.grammar = parseBus},
     .writer = {.printer = &bracePrinter, .names = &spefNames, .marksLeading = true},
 };
@@ -204,7 +204,7 @@ constexpr PathLanguage gcf = {
     .separators = gcfSeparators,
     .handle = &zelGcfHandle,
     .redefines = Redefines::everything,
-    .names = {.scan = zeliScanGcf, .stops = chars(":"), .read = &gcfNames},
+    .names = {.scan = zeliScanGcf, .stops = ":", .pathNameBytes = pathNameBytes(":", gcfSeparators), .read = &gcfNames},
     .reader = {.grammar = parseBus},
     .writer = {.printer = &bracePrinter, .names = &gcfNames, .marksLeading = true},
 };
@@ -218,7 +218,7 @@ constexpr PathLanguage spice = {
     .separators = {'/', '/', '[', ']'},
     .handle = &zelSpiceHandle,
     .names = {.scan = zeliScanSpice,
-              .stops = chars("."),
+              .pathNameBytes = graphic - chars("."),
               .tested = &spiceNames,
               .read = &spiceNames,
               .convertsOnRequest = false,
@@ -253,7 +253,7 @@ constexpr PathLanguage flatTessel = {
     .separators = {'\0', '\0', '[', ']'},
     .handle = &zelFlatTesselHandle,
     .redefines = Redefines::busBrackets,
-    .names = {.scan = zeliScanFlatTessel, .stops = chars("[]"), .read = &flatTesselNames},
+    .names = {.scan = zeliScanFlatTessel, .pathNameBytes = graphic - chars("[]"), .read = &flatTesselNames},
     .reader = {.grammar = parseBus, .marks = {'\0', '[', ']'}},
     .writer = {.printer = &bracePrinter, .names = &flatTesselNames, .marks = {'|', '[', ']'}, .marksLeading = true},
 };
@@ -308,7 +308,8 @@ const PathLanguage *zeli::languageOf(const zelPathRecord *path) {
 
 #define ZELI_HANDLE(handle, language)                                                                                  \
   static constexpr zelHandleRecord handle##Record = {builtInHandle, &(language), (language).separators,                \
-                                                     (language).names.read, nullptr};                                  \
+                                                     (language).names.read, nullptr,                                    \
+                                                     &(language).names.pathNameBytes};                                 \
   const zelHandle handle = &handle##Record;
 
 ZELI_PARSER(zelParseVerilog, languages::verilog)

@@ -33,10 +33,17 @@ enum class Braces {
   kirra     // as verilog, but the brace that closes a group is never opened
 };
 
+constexpr ByteSet pathNameBytes(const char *stops, const Separators &separators) {
+  return graphic - chars(stops) - chars({separators.divider, separators.busOpen, separators.busClose});
+}
+
 // A language's names: where one ends in a text, what a path demands of it, and how it becomes an Ident.
 struct NameReader {
   zeliScanner *scan;
-  ByteSet stops = {}; // beside redefined separators, where a backslash takes the next character into the name
+  // Where a backslash takes the next character into the name: the bytes that end one beside the separators, and all
+  // that do not under those of the row.
+  const char *stops = "";
+  ByteSet pathNameBytes = {};
   const Operations *tested = nullptr; // as whose names they must be legal; null for anything that scans
   const Operations *read = nullptr;   // as whose names they are read
   bool convertsOnRequest = true;      // zelPathGetIdent converts them

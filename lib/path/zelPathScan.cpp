@@ -33,25 +33,27 @@ const char *skipExtended(const char *text) {
   }
 }
 
-// A name in which a backslash takes the next character, whatever it is but the end or a byte of 128 or above. It ends
-// at the stops of the language and at separators that a file may redefine.
-const char *skipQuoting(const char *text, const PathLanguage &language, zelHandle handle) {
-  constexpr ByteSet sevenBit = range(1, 127);
-  const auto [divider, busOpen, busClose] = marksOf(separatingHandle(language, handle), {});
-  ByteSet separators;
-  separators.add(divider);
-  separators.add(busOpen);
-  separators.add(busClose);
-  const ByteSet plain = graphic - language.names.stops - separators;
-  const ByteSet unquoted = plain - chars("\\");
+// A name in which a backslash takes the next character, whatever it is but the end or a byte of 128 or above.
+const char *skipQuoting(const char *text, const ByteSet &plain) {
   for (;;) {
-    text = skip(text, unquoted);
-    if (*text != '\\' || !plain.has(*text))
+    while (*text != '\\' && plain.has(*text))
+      ++text;
+    if (*text != '\\' || !plain.has('\\'))
       return text;
     ++text;
-    if (sevenBit.has(*text))
+    if (ascii.has(*text) && *text != '\0')
       ++text;
   }
+}
+
+// It ends at the stops of the language and at the separators in force.
+const char *skipQuoting(const char *text, const PathLanguage &language, zelHandle handle) {
+  const zelHandle separating = separatingHandle(language, handle);
+  if (separating == nullptr)
+    return skipQuoting(text, language.names.pathNameBytes);
+  if (separating->language == &language)
+    return skipQuoting(text, *separating->pathNameBytes);
+  return skipQuoting(text, pathNameBytes(language.names.stops, separating->separators)); // the handle of another space
 }
 
 // Whether the character at text is escaped by the backslash in front of it, which no other backslash escapes.
@@ -63,8 +65,6 @@ bool isEscaped(const char *start, const char *text) {
 }
 
 } // namespace
-
-const char *zeli::skipDigits(const char *text) { return skip(text, digit); }
 
 const char *zeliScanVlog(const char *text, zelHandle) {
   constexpr ByteSet plain = letter | digit | chars("_$");
@@ -88,7 +88,7 @@ const char *zeliScanORKA(const char *text, zelHandle) {
   for (;;) {
     text = skip(text, plain);
     // A number in parentheses belongs to the name.
-    const char *behind = *text == '(' ? skipDigits(text + 1) : text;
+    const char *behind = *text == '(' ? skip(text + 1, digit) : text;
     if (behind <= text + 1 || *behind != ')')
       return text;
     text = behind + 1;

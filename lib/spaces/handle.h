@@ -17,6 +17,9 @@ struct zelHandleRecord {
   // The rules of the space's names under these separators, made once; null for the built-in ones.
   const zeli::Operations *names;
   const zeli::BackslashRules *rules;
+
+  // The bytes of which the names of its paths consist, made once; see NameReader.
+  const zeli::ByteSet *pathNameBytes;
 };
 
 namespace zeli {
