@@ -64,8 +64,6 @@ bool isEscaped(const char *start, const char *text) {
 
 } // namespace
 
-const char *zeli::skipDigits(const char *text) { return skip(text, digit); }
-
 const char *zeliScanVlog(const char *text, zelHandle) {
   constexpr ByteSet plain = letter | digit | chars("_$");
   return *text == '\\' ? skipEscaped(text) : skip(text, plain);
@@ -88,7 +86,7 @@ const char *zeliScanORKA(const char *text, zelHandle) {
   for (;;) {
     text = skip(text, plain);
     // A number in parentheses belongs to the name.
-    const char *behind = *text == '(' ? skipDigits(text + 1) : text;
+    const char *behind = *text == '(' ? skip(text + 1, digit) : text;
     if (behind <= text + 1 || *behind != ')')
       return text;
     text = behind + 1;

@@ -22,9 +22,4 @@ zeliScanner zeliScanSpf;
 zeliScanner zeliScanSpef;
 zeliScanner zeliScanGcf;
 
-namespace zeli {
-// Where the decimal digits at text end.
-const char *skipDigits(const char *text);
-} // namespace zeli
-
 #endif
