@@ -7,8 +7,7 @@ namespace {
 
 // Whether a word is a name of both spaces as it stands. In the default mapping state only, which it must not determine.
 bool isPlain(const Name &name, const Operations &from, const Operations &to) {
-  if (!name.isWord() || hasPrefix(name.head()) ||
-      zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
+  if (!name.isWord() || hasPrefix(name.head()) || zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
     return false;
   const bool isSensitive = from.plainWords.readAs == 'S' || (from.plainWords.readAs == '\0' && name.has(traitUpper));
   const auto isAs = [&name](const Operations &space, std::uint8_t unless) {

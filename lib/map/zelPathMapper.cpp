@@ -1,5 +1,5 @@
 // The mapping of paths between languages.
-#include "map/plainPath.h"
+#include "map/directPath.h"
 #include "path/zelPathParse.h"
 #include "path/zelPathPrint.h"
 
@@ -48,8 +48,8 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
   if (from == nullptr || to == nullptr)
     return nullptr;
   if (text != nullptr) {
-    char room[plainPathRoom];
-    if (const Bytes result = mapPlainPath(text, from, to, flags, room); result.data() != nullptr)
+    DirectPath direct;
+    if (const Bytes result = direct.map(text, from, to, flags); result.data() != nullptr)
       return makeString(result, alloc, context);
   }
   Arena arena;

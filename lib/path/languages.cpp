@@ -134,7 +134,11 @@ constexpr PathLanguage lef = {
     .separators = lefSeparators,
     .handle = &zelLefHandle,
     .redefines = Redefines::everything,
-    .names = {.scan = zeliScanLef, .stops = ";", .pathNameBytes = pathNameBytes(";", lefSeparators), .tested = &lefNames, .read = &lefNames},
+    .names = {.scan = zeliScanLef,
+              .stops = ";",
+              .pathNameBytes = pathNameBytes(";", lefSeparators),
+              .tested = &lefNames,
+              .read = &lefNames},
     .reader = {.grammar = parseBus},
     .writer = {.printer = &bracePrinter, .names = &lefNames, .marksLeading = true},
 };
@@ -148,7 +152,11 @@ constexpr PathLanguage def = {
     .separators = defSeparators,
     .handle = &zelDefHandle,
     .redefines = Redefines::everything,
-    .names = {.scan = zeliScanDef, .stops = ";", .pathNameBytes = pathNameBytes(";", defSeparators), .tested = &defNames, .read = &defNames},
+    .names = {.scan = zeliScanDef,
+              .stops = ";",
+              .pathNameBytes = pathNameBytes(";", defSeparators),
+              .tested = &defNames,
+              .read = &defNames},
     .reader = {.grammar = parseBus},
     .writer = {.printer = &bracePrinter, .names = &defNames, .marksLeading = true},
 };
@@ -190,7 +198,10 @@ constexpr PathLanguage spef = {
     .separators = spefSeparators,
     .handle = &zelSpefHandle,
     .redefines = Redefines::everything,
-    .names = {.scan = zeliScanSpef, .stops = ":", .pathNameBytes = pathNameBytes(":", spefSeparators), .read = &spefNames},
+    .names = {.scan = zeliScanSpef,
+              .stops = ":",
+              .pathNameBytes = pathNameBytes(":", spefSeparators),
+              .read = &spefNames},
     .reader = {.grammar = parseBus},
     .writer = {.printer = &bracePrinter, .names = &spefNames, .marksLeading = true},
 };
@@ -307,9 +318,9 @@ const PathLanguage *zeli::languageOf(const zelPathRecord *path) {
   }
 
 #define ZELI_HANDLE(handle, language)                                                                                  \
-  static constexpr zelHandleRecord handle##Record = {builtInHandle, &(language), (language).separators,                \
-                                                     (language).names.read, nullptr,                                    \
-                                                     &(language).names.pathNameBytes};                                 \
+  static constexpr zelHandleRecord handle##Record = {                                                                  \
+      builtInHandle,         &(language), (language).separators,                                                       \
+      (language).names.read, nullptr,     &(language).names.pathNameBytes};                                            \
   const zelHandle handle = &handle##Record;
 
 ZELI_PARSER(zelParseVerilog, languages::verilog)
