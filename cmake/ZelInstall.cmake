@@ -1,4 +1,5 @@
-# What is installed where. The components are the Debian packages: runtime, dev and tool.
+# What is installed where. The components are the Debian packages, runtime, dev and tool, and license, which those have
+# in a form of their own.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -61,6 +62,8 @@ install(FILES tool/zelpath.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-comple
         COMPONENT tool)
 install(FILES docs/man/zelpath.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
 install(FILES docs/man/zel.3 DESTINATION ${CMAKE_INSTALL_MANDIR}/man3 COMPONENT dev)
+
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
 
 # The packages of a project that includes this one are its own affair.
 if(PROJECT_IS_TOP_LEVEL)

@@ -2,12 +2,13 @@
 
 set(zel_maintainer "zel maintainers <maintainers@example.org>" CACHE STRING "Maintainer of the packages")
 
-set(zel_debian_version ${PROJECT_VERSION}-1)
-
+# Without a Debian revision: these packages are made by the project itself, and the first that Debian makes of the same
+# release, -1, counts as newer.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME zel)
 set(CPACK_PACKAGE_VENDOR zel)
 set(CPACK_PACKAGE_CONTACT ${zel_maintainer})
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
@@ -16,7 +17,6 @@ set(CPACK_COMPONENTS_ALL runtime dev tool)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SOURCE zel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
@@ -33,7 +33,7 @@ set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "${zel_about}\n.\nThis package holds the sh
 
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libzel-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "libzel${PROJECT_VERSION_MAJOR} (= ${zel_debian_version})")
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "libzel${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_DEV_DESCRIPTION
     "${zel_about}\n.\nThis package holds the header, the static library, and what CMake and\npkg-config read.")
 
@@ -42,7 +42,10 @@ set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION electronics)
 set(CPACK_DEBIAN_TOOL_DESCRIPTION
     "${zel_about}\n.\nThis package holds zelpath, which shows one name in every syntax.")
 
-# CPack would run ldconfig by a maintainer script, where Debian has a trigger.
+# The trigger runs ldconfig once for all packages that are installed together. CPack would write maintainer scripts that
+# run it as well for every shared library that it sees, and it looks for them only to ask for their dependencies; those
+# are found by a script of ours.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS OFF)
 file(WRITE ${PROJECT_BINARY_DIR}/debian/triggers "activate-noawait ldconfig\n")
 file(WRITE ${PROJECT_BINARY_DIR}/debian/shlibs
      "libzel ${PROJECT_VERSION_MAJOR} libzel${PROJECT_VERSION_MAJOR} (>= ${PROJECT_VERSION})\n")
@@ -52,17 +55,17 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/trig
 # --- What Debian wants beside the files; left out when installing otherwise ----------------------------------------
 
 string(TIMESTAMP zel_changelog_date "%a, %d %b %Y %H:%M:%S +0000" UTC)
-string(TIMESTAMP zel_year "%Y" UTC)
-configure_file(cmake/debian/changelog.in ${PROJECT_BINARY_DIR}/debian/changelog.Debian @ONLY)
+configure_file(cmake/debian/changelog.in ${PROJECT_BINARY_DIR}/debian/changelog @ONLY)
 configure_file(cmake/debian/copyright.in ${PROJECT_BINARY_DIR}/debian/copyright @ONLY)
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER ${component} COMPONENT)
   install(
-    FILES ${PROJECT_BINARY_DIR}/debian/copyright ${PROJECT_BINARY_DIR}/debian/changelog.Debian
+    FILES ${PROJECT_BINARY_DIR}/debian/copyright ${PROJECT_BINARY_DIR}/debian/changelog
     DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${COMPONENT}_PACKAGE_NAME}
     COMPONENT ${component}
     EXCLUDE_FROM_ALL)
 endforeach()
-set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/debian/compress.cmake)
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/debian/compress.cmake
+                            ${PROJECT_SOURCE_DIR}/cmake/debian/shlibdeps.cmake)
 
 include(CPack)

@@ -2,7 +2,7 @@
 #ifndef ZEL_FUZZ_FUZZ_H
 #define ZEL_FUZZ_FUZZ_H
 
-#include "core/handle.h"
+#include "path/languages.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -53,7 +53,7 @@ inline Handle handle(FuzzedDataProvider &input, const char *space) {
 
 inline Result print(zelPath path, const Handle &language, int32_t flags) {
   return inEveryMemory(
-      [&](auto... memory) { return language->varBits->print(path, language.get(), flags, memory...); });
+      [&](auto... memory) { return language->language->print(path, language.get(), flags, memory...); });
 }
 
 struct Item {

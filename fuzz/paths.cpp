@@ -17,7 +17,7 @@ bool arePlain(const std::vector<Item> &items) {
 }
 
 // A valid, plain path reads back from its own language as it was.
-void checkRoundTrip(const zeli::VarBits &language, const char *source) {
+void checkRoundTrip(const zeli::PathLanguage &language, const char *source) {
   const Path path(language.parse(source, nullptr, nullptr, nullptr));
   const std::vector<Item> items = walk(path.get());
   if (!isValid(path) || !arePlain(items))
@@ -42,11 +42,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
   zelSetMapState(input.ConsumeIntegralInRange<int32_t>(ZEL_MAP_VHDL, ZEL_MAP_MATCH));
   const std::string text = input.ConsumeRemainingBytesAsString();
   // ORKA without repeats cannot write a bracketed list, which ends the process.
-  if (to->varBits->print == zelPathToORKAEx &&
+  if (to->language->print == zelPathToORKAEx &&
       (flags & (ZEL_PRINT_NOREPEAT | ZEL_PRINT_EXPLODE)) == ZEL_PRINT_NOREPEAT && text.find('(') != std::string::npos)
     return 0;
 
-  const Path path(from->varBits->parse(text.c_str(), from.get(), nullptr, nullptr));
+  const Path path(from->language->parse(text.c_str(), from.get(), nullptr, nullptr));
   require(path != nullptr, "a text has a path");
   const Result printed = print(path.get(), to, flags);
   const Result mapped = inEveryMemory([&](auto... memory) {
@@ -55,6 +55,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
   require(mapped == (isValid(path) ? printed : Result()), "the mapper parses and prints");
   walk(path.get());
   require(print(path.get(), to, flags) == printed, "neither a walk nor printing changes a path");
-  checkRoundTrip(*from->varBits, text.c_str());
+  checkRoundTrip(*from->language, text.c_str());
   return 0;
 }

@@ -42,42 +42,88 @@ struct HexEscape {
     return behind != '\0' && (behind == mark || !literal.has(behind));
   }
 
+  static constexpr char digitOf(int value) { return "0123456789abcdef"[value & 15]; }
+
   void put(Text &out, char c) const {
-    constexpr char digits[] = "0123456789abcdef";
-    const auto byte = static_cast<unsigned char>(c);
     out.put(mark);
-    out.put(digits[byte >> 4]);
-    out.put(digits[byte & 15]);
+    out.put(digitOf(static_cast<unsigned char>(c) >> 4));
+    out.put(digitOf(c));
+  }
+};
+
+// What each byte is written as: itself or an escape, behind a quote where one belongs. A table, so that no byte costs a
+// branch.
+struct Spelling {
+  char text[256][4] = {};
+  std::uint8_t size[256] = {}; // 0 for the mark of the escape, whose spelling depends on what stands behind it
+  bool quotesMark = false;
+  char quote = '\0';
+
+  constexpr Spelling(const HexEscape &escape, const ByteSet &standing, const ByteSet &quoted = {},
+                     char quoteMark = '\\')
+      : quotesMark(quoted.has(escape.mark)), quote(quoteMark) {
+    for (int i = 0; i < 256; ++i) {
+      const auto c = static_cast<char>(i);
+      if (c == escape.mark)
+        continue;
+      int length = 0;
+      if (quoted.has(c))
+        text[i][length++] = quote;
+      if (standing.has(c)) {
+        text[i][length++] = c;
+      } else {
+        text[i][length++] = escape.mark;
+        text[i][length++] = HexEscape::digitOf(i >> 4);
+        text[i][length++] = HexEscape::digitOf(i);
+      }
+      size[i] = static_cast<std::uint8_t>(length);
+    }
   }
 };
 
 // For text that is only copied.
 constexpr HexEscape noEscape = {'\0', anyByte};
 
-// A character that a writer puts in front of some bytes, whether these then stand for themselves or as an escape.
-struct Quoting {
-  ByteSet bytes;
-  char quote = '\\';
-};
-
-// Writes body: the bytes of standing as they are (in lower case when it folds), the others as escapes.
-inline void encode(Text &out, Bytes body, const HexEscape &escape, bool folds, const ByteSet &standing,
-                   const Quoting &quoting) {
-  for (std::size_t i = 0; i < body.size(); ++i) {
-    const char c = folds ? toLower(body[i]) : body[i];
-    if (quoting.bytes.has(c))
-      out.put(quoting.quote);
-    // The mark is written so that it reads back as a plain mark.
-    if (c == escape.mark ? escape.isEscape(body, i) : !standing.has(c))
-      escape.put(out, c);
-    else
-      out.put(c);
-  }
+inline void copyLowered(Text &out, Bytes s) {
+  char *const to = out.bytes + out.size;
+  for (std::size_t i = 0; i < s.size(); ++i)
+    to[i] = toLower(s[i]);
+  out.size += s.size();
 }
 
-// The same for a space where the bytes that are never read as an escape are the ones that stand as they are.
-inline void encode(Text &out, Bytes body, const HexEscape &escape, bool folds, const Quoting &quoting = {}) {
-  encode(out, body, escape, folds, escape.literal, quoting);
+// Writes body by a spelling, in lower case when it folds. A byte that is lowered is never the mark.
+inline void encode(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+  char *to = out.bytes + out.size;
+  for (std::size_t i = 0; i < body.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(folds ? toLower(body[i]) : body[i]);
+    std::memcpy(to, spelling.text[byte], sizeof spelling.text[byte]);
+    to += spelling.size[byte];
+    if (spelling.size[byte] != 0)
+      continue;
+    // The mark is written so that it reads back as a plain mark.
+    out.size = static_cast<std::size_t>(to - out.bytes);
+    if (spelling.quotesMark)
+      out.put(spelling.quote);
+    if (escape.isEscape(body, i))
+      escape.put(out, escape.mark);
+    else
+      out.put(escape.mark);
+    to = out.bytes + out.size;
+  }
+  out.size = static_cast<std::size_t>(to - out.bytes);
+}
+
+// The bytes that a writer makes of a body in a space that takes words as they are: the body itself if it can be.
+inline Bytes spell(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+  if (!body.isWord())
+    encode(work, body, escape, spelling, folds);
+  else if (folds && body.has(traitUpper))
+    copyLowered(work, body);
+  else if (work.size == 0)
+    return body;
+  else
+    work.put(body);
+  return work.view();
 }
 
 // Copies name to out with its escapes decoded; returns whether a capital was copied (decoded ones do not count).
@@ -102,22 +148,14 @@ template <typename Quotes> bool decode(Text &out, Bytes name, const HexEscape &e
 
 inline bool quotesNothing(Bytes, std::size_t) { return false; }
 
-// The same as an Ident, of which a capital makes a case-sensitive one.
-template <typename Quotes> Ident decodeIdent(Text &work, Bytes name, const HexEscape &escape, Quotes quotes) {
-  const bool copiedUpper = decode(work, name, escape, quotes);
-  return identByCase(copiedUpper, work.view());
-}
-
-// Whether every byte from start up to end is quoted, as for decode, or one of set. The last may quote the byte at end.
+// The same as an Ident, of which a capital makes a case-sensitive one. A name in which nothing is quoted or encoded is
+// its own body.
 template <typename Quotes>
-bool isMadeOf(const ByteSet &set, Bytes name, std::size_t start, std::size_t end, Quotes quotes) {
-  for (std::size_t i = start; i < end; ++i) {
-    if (quotes(name, i))
-      ++i;
-    else if (!set.has(name[i]))
-      return false;
-  }
-  return true;
+Ident decodeIdent(Text &work, const Name &name, const HexEscape &escape, std::uint8_t quoteTrait, Quotes quotes) {
+  if (!name.has(static_cast<std::uint8_t>(traitMark | quoteTrait)))
+    return identByCase(name);
+  const bool copiedUpper = decode(work, name, escape, quotes);
+  return {copiedUpper ? 'S' : 'I', Name(work.view())};
 }
 
 } // namespace zeli

@@ -1,13 +1,12 @@
-// Names inside the library: views of what was given, and a bounded buffer for what is being written.
+// Names inside the library: views of what was given, what one pass over them tells, and a buffer for what is written.
 #ifndef ZEL_CORE_TEXT_H
 #define ZEL_CORE_TEXT_H
 
+#include "core/block.h"
 #include "core/byteSet.h"
 #include "core/zel.h"
 
 #include <cerrno>
-#include <cstddef>
-#include <cstring>
 #include <string_view>
 
 namespace zeli {
@@ -19,6 +18,9 @@ using Bytes = std::string_view;
 // The bytes of a caller's string. Reading stops one past the longest name, so that an over-long string costs no more
 // than that and is known by its size. Null gives a view without data.
 inline Bytes nameBytes(const char *s) { return s == nullptr ? Bytes{} : Bytes{s, strnlen(s, maxName + 1)}; }
+
+// For the tests that have no limit of length.
+inline Bytes wholeBytes(const char *s) { return s == nullptr ? Bytes{} : Bytes{s}; }
 
 // s without its first bytes / its first bytes only (string_view's own substr would throw).
 inline Bytes from(Bytes s, std::size_t start) { return {s.data() + start, s.size() - start}; }
@@ -33,48 +35,125 @@ inline bool allOf(Bytes s, const ByteSet &set) {
   return true;
 }
 
-inline bool hasUpper(Bytes s) {
-  for (const char c : s)
-    if (upper.has(c))
-      return true;
-  return false;
-}
-
 inline bool startsWith(Bytes s, Bytes prefix) { return s.size() >= prefix.size() && upTo(s, prefix.size()) == prefix; }
+
+// Whether s, in any case, is a word in lower case.
+inline bool isSameFolded(Bytes s, Bytes lowerWord) {
+  if (s.size() != lowerWord.size())
+    return false;
+  for (std::size_t i = 0; i < s.size(); ++i)
+    if (toLower(s[i]) != lowerWord[i])
+      return false;
+  return true;
+}
 
 constexpr Bytes force = "ESC_";
 inline bool isForce(Bytes s) { return startsWith(s, force); }
 inline Bytes skipForce(Bytes s) { return isForce(s) ? from(s, force.size()) : s; }
 
-// Text being written: the longest name behind a force prefix, and one byte more. It counts what does not fit instead of
-// storing it, so that a writer needs no bounds of its own and an over-long result is known by its size.
-struct Text {
-  std::size_t size = 0;
-  char bytes[maxName + 1 + force.size()]; // not cleared: a buffer is made for every name
+// What the bytes of a name are, found in one pass. Most names are words (letters, digits, '_'), which nearly every
+// space takes as they are: whoever tests or writes one asks for that first and looks at single bytes only otherwise.
+enum Trait : std::uint8_t {
+  traitOther = 1, // bytes that no word has; like those of marks and backslashes also set where this is not known
+  traitUpper = 2,
+  traitTwoUnderscores = 4, // "__"
+  traitMark = 8,           // '#' or '%'
+  traitBackslash = 16,
+  traitDigitFirst = 32,
+  traitUnderscoreFirst = 64,
+  traitUnderscoreLast = 128
+};
 
-  void put(char c) {
-    if (size < sizeof bytes)
-      bytes[size] = c;
-    ++size;
+struct Look {
+  std::uint8_t traits;
+  std::uint64_t head; // the first eight bytes, by which keywords are looked up
+};
+
+inline Look lookAt(Bytes s) {
+  constexpr unsigned char caseBit = 'a' - 'A';
+  BlockTest word = ~BlockTest{};
+  Block unlike = {}; // the bits that some letter does not have
+  std::uint32_t pairs = 0;
+  std::uint32_t carried = 0; // the last underscore of the block before
+  const auto look = [&](Block block) {
+    const BlockTest isLetter = isWithin(block | caseBit, 'a', 'z');
+    const BlockTest underscore = isChar(block, '_');
+    word &= isLetter | isWithin(block, '0', '9') | underscore;
+    unlike |= reinterpret_cast<Block>(isLetter) & ~block;
+    const std::uint32_t bits = bitsOf(underscore);
+    pairs |= bits & (bits << 1 | carried);
+    carried = bits >> (blockBytes - 1);
+  };
+
+  std::uint64_t head = 0;
+  std::uint32_t unused = 0; // bytes of a part that are not of the name
+  if (s.size() < blockBytes) {
+    head = headWord(s.data(), s.size());
+    look(loadPart(s.data(), s.size()));
+    unused = 0xFFFFU << s.size() & 0xFFFFU;
+    if (s.empty())
+      return {};
+  } else {
+    head = loadWord(s.data());
+    const std::size_t last = s.size() - blockBytes;
+    std::size_t i = 0;
+    for (; i < last; i += blockBytes)
+      look(loadBlock(s.data() + i));
+    if (i != last)
+      carried = 0; // the last block begins before the boundary
+    look(loadBlock(s.data() + last));
   }
 
+  const BlockTest isUpper = reinterpret_cast<BlockTest>((unlike & caseBit) == caseBit);
+  int traits = (bitsOf(isUpper) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0) |
+               (digit.has(s.front()) ? traitDigitFirst : 0) | (s.front() == '_' ? traitUnderscoreFirst : 0) |
+               (s.back() == '_' ? traitUnderscoreLast : 0);
+  if ((bitsOf(word) | unused) != 0xFFFF) {
+    traits |= traitOther;
+    for (const char c : s)
+      traits |= c == '\\' ? traitBackslash : c == '#' || c == '%' ? traitMark : 0;
+  }
+  return {static_cast<std::uint8_t>(traits), head};
+}
+
+// A name with what is known of it.
+struct Name : Bytes {
+  Look look = {};
+
+  Name() = default;
+  explicit Name(Bytes bytes) : Bytes(bytes), look(lookAt(bytes)) {}
+  Name(Bytes bytes, Look known) : Bytes(bytes), look(known) {}
+  Name(Bytes bytes, std::uint8_t traits) : Bytes(bytes), look{traits, headWord(bytes.data(), bytes.size())} {}
+
+  bool has(std::uint8_t wanted) const { return (look.traits & wanted) != 0; }
+  std::uint64_t head() const { return look.head; }
+  bool isWord() const { return !has(traitOther); }
+};
+
+// Whether name consists of bytes of set, which holds those of words.
+inline bool isMadeOf(const Name &name, const ByteSet &set) { return name.isWord() || allOf(name, set); }
+
+// Text being written. It has room for the longest name with every byte spelt as four, behind a prefix and between
+// quotes, so that a writer needs no bounds and an over-long result is known by its size.
+struct Text {
+  std::size_t size = 0;
+  char bytes[4 * maxName + 16]; // not cleared: a buffer is made for every name
+
+  void put(char c) { bytes[size++] = c; }
+
   void put(Bytes s) {
-    if (size < sizeof bytes) {
-      const std::size_t room = sizeof bytes - size;
-      std::memcpy(bytes + size, s.data(), s.size() < room ? s.size() : room);
-    }
+    std::memcpy(bytes + size, s.data(), s.size());
     size += s.size();
   }
 
-  // What is stored. Of a text that did not fit, this is still over-long.
-  Bytes view() const { return {bytes, size < sizeof bytes ? size : sizeof bytes}; }
+  Bytes view() const { return {bytes, size}; }
 };
 
 // A name that was read: marker and body. The body points into the name or into the reader's Text; without data, the
 // name was refused.
 struct Ident {
   char marker = '\0';
-  Bytes body;
+  Name body;
 
   bool isCaseSensitive() const { return marker != 'I'; }
 };
@@ -84,18 +163,10 @@ inline Bytes refuse() {
   errno = EINVAL;
   return {};
 }
-inline Ident refuseIdent() { return {'\0', refuse()}; }
+inline Ident refuseIdent() { return {'\0', {refuse(), 0}}; }
 
 // The case marker that most readers choose.
-inline Ident identByCase(bool copiedUpper, Bytes body) { return {copiedUpper ? 'S' : 'I', body}; }
-
-// A writer's view of an Ident string; refused (EINVAL) when it is no Ident or its body is over-long.
-inline Ident identOf(const char *ident) {
-  if (zelIsLegalIdent(ident) == 0)
-    return refuseIdent();
-  const Bytes body = nameBytes(ident + 1);
-  return isNameLength(body) ? Ident{*ident, body} : refuseIdent();
-}
+inline Ident identByCase(const Name &body) { return {body.has(traitUpper) ? 'S' : 'I', body}; }
 
 } // namespace zeli
 

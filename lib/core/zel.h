@@ -551,7 +551,7 @@ ZEL_API int zelGetHandleDefaults(const char *spaceName, char *pinDelimiter, char
 /* How a path is printed. */
 enum {
   ZEL_PRINT_EXPLODE = 1,   /* every bit as a name of its own */
-  ZEL_PRINT_NOREPEAT = 2,  /* no repeat notation */
+  ZEL_PRINT_NOREPEAT = 2,  /* no repeat notation; see "What ends the process" below for ORKA */
   ZEL_PRINT_NOCOMPLEX = 4, /* accepted; no printer reads it */
   ZEL_PRINT_GROUP = 8,     /* one grouping expression */
   ZEL_PRINT_TOP = 16       /* as the top of the hierarchy */
@@ -704,8 +704,11 @@ ZEL_API char *zelStrToIdent(zelPath chunk, uint32_t position) ZEL_NOEXCEPT;
  * zelPathTo<X>(path, handle, flags) and zelPathTo<X>Ex(..., alloc, context): the path in the syntax of the space,
  * under the ZEL_PRINT_ flags. An Ident that the space cannot write is left out, an item that it cannot write appears as
  * "!ERROR!". The short form takes its result from malloc. A null path and one without items print as "". EINVAL for a
- * text of 2048 characters or more, ENOMEM. A bracketed index list that the flags leave unexpanded where the others are
- * (possible only in ORKA with ZEL_PRINT_NOREPEAT, or in a path cut by hand) ends the process.
+ * text of 2048 characters or more, ENOMEM.
+ *
+ * What ends the process: printing a bracketed index list, as in the ORKA path a<(0,1)>, in ORKA with ZEL_PRINT_NOREPEAT
+ * and without ZEL_PRINT_EXPLODE; and printing a path that was cut right behind the bracket. A line is written to
+ * standard error, and abort is called. The chapter of the same name in docs/paths.md has the details.
  */
 ZEL_API zelPath zelParseVerilog(const char *text, zelHandle handle, zelAllocFunc alloc, void *context) ZEL_NOEXCEPT;
 ZEL_API zelPath zelParseVerilogAMS(const char *text, zelHandle handle, zelAllocFunc alloc, void *context) ZEL_NOEXCEPT;

@@ -3,15 +3,9 @@
 
 #include "core/hexEscape.h"
 
-#include <atomic>
-#include <cstdlib>
-
-namespace zeli {
+using namespace zeli;
 
 namespace {
-
-// The mapping state of the process.
-std::atomic<std::int32_t> zelMapState{ZEL_MAP_UNSET};
 
 bool containsFolded(Bytes text, Bytes lowerWord) {
   for (std::size_t start = 0; start + lowerWord.size() <= text.size(); ++start) {
@@ -37,91 +31,11 @@ std::int32_t stateFromEnvironment(bool allChoices) {
   return ZEL_MAP_DEFAULT;
 }
 
-// As strcmp of key and word.
-int compare(Bytes key, const char *word) {
-  for (const char c : key) {
-    if (c != *word)
-      return static_cast<unsigned char>(c) - static_cast<unsigned char>(*word);
-    ++word;
-  }
-  return *word == '\0' ? 0 : -1;
-}
-
 } // namespace
 
-void *allocate(std::size_t size, zelAllocFunc alloc, void *context) {
-  void *memory = alloc != nullptr ? alloc(size, context) : context != nullptr ? context : std::malloc(size);
-  if (memory == nullptr)
-    errno = ENOMEM;
-  return memory;
-}
+constinit std::atomic<std::int32_t> zeli::zelMapState{ZEL_MAP_UNSET};
 
-char *makeString(Bytes text, zelAllocFunc alloc, void *context) {
-  if (text.data() == nullptr)
-    return nullptr;
-  if (text.size() > maxName) {
-    errno = EINVAL;
-    return nullptr;
-  }
-  auto *result = static_cast<char *>(allocate(text.size() + 1, alloc, context));
-  if (result == nullptr)
-    return nullptr;
-  std::memmove(result, text.data(), text.size());
-  result[text.size()] = '\0';
-  return result;
-}
-
-char *makeIdent(const Ident &ident, zelAllocFunc alloc, void *context) {
-  const Bytes body = ident.body;
-  if (body.data() == nullptr)
-    return nullptr;
-  if (body.size() > maxName) {
-    errno = EINVAL;
-    return nullptr;
-  }
-  auto *result = static_cast<char *>(allocate(body.size() + 2, alloc, context));
-  if (result == nullptr)
-    return nullptr;
-  std::memmove(result + 1, body.data(), body.size());
-  result[0] = ident.marker;
-  result[body.size() + 1] = '\0';
-  return result;
-}
-
-bool foldsCase(const Ident &ident) {
-  // Also a case-sensitive Ident is a first use that determines the state.
-  const std::int32_t state = zelGetMapState();
-  return !ident.isCaseSensitive() && state != ZEL_MAP_MATCH;
-}
-
-bool tableHas(const char *const *table, std::int32_t count, Bytes key) {
-  constexpr std::int32_t scannedWhole = 4;
-  if (count <= scannedWhole) {
-    for (std::int32_t i = 0; i < count; ++i)
-      if (compare(key, table[i]) == 0)
-        return true;
-    return false;
-  }
-  std::int32_t low = 0;
-  std::int32_t high = count - 1;
-  while (low <= high) {
-    const std::int32_t middle = low + (high - low) / 2;
-    const int order = compare(key, table[middle]);
-    if (order == 0)
-      return true;
-    if (order > 0)
-      low = middle + 1;
-    else
-      high = middle - 1;
-  }
-  return false;
-}
-
-} // namespace zeli
-
-using namespace zeli;
-
-std::int32_t zelGetMapState() noexcept {
+std::int32_t zeli::resolveMapState() {
   std::int32_t state = zelMapState.load(std::memory_order_relaxed);
   // A state that another thread sets while this one reads the environment wins.
   while (state <= ZEL_MAP_RESOLVE) {
@@ -132,6 +46,8 @@ std::int32_t zelGetMapState() noexcept {
   return state;
 }
 
+std::int32_t zelGetMapState() noexcept { return mapStateOfProcess(); }
+
 void zelSetMapState(std::int32_t value) noexcept {
   const bool isChoice = value >= ZEL_MAP_VHDL && value <= ZEL_MAP_MATCH;
   zelMapState.store(isChoice ? value : static_cast<std::int32_t>(ZEL_MAP_RESOLVE), std::memory_order_relaxed);
@@ -141,7 +57,7 @@ char *zelNewIdent(std::int32_t kind, const char *text, zelAllocFunc alloc, void 
   if (text == nullptr)
     return makeIdent(refuseIdent(), alloc, context);
   const char marker = kind == 0 ? 'S' : kind == 2 ? 'F' : 'I';
-  return makeIdent({marker, nameBytes(text)}, alloc, context);
+  return makeIdent({marker, {nameBytes(text), 0}}, alloc, context);
 }
 
 char *zelNewString(const char *text, zelAllocFunc alloc, void *context) noexcept {
@@ -177,7 +93,7 @@ int zelFromPoundHex(const char *s, std::uint32_t *used) noexcept {
   return isPair ? hexDigit(s[0]) * 16 + hexDigit(s[1]) : 0;
 }
 
-int zelAllLower(const char *s) noexcept { return s != nullptr && !hasUpper(s) ? 1 : 0; }
+int zelAllLower(const char *s) noexcept { return s != nullptr && !Name(wholeBytes(s)).has(traitUpper) ? 1 : 0; }
 
 int zelIsForce(const char *s) noexcept { return s != nullptr && isForce(s) ? 1 : 0; }
 

@@ -1,10 +1,12 @@
-// What every translator needs from the core: results under the allocator convention and the mapping state.
+// What every translator needs from the core: Idents as views, results under the allocator convention and the mapping
+// state.
 #ifndef ZEL_CORE_ZELPVT_H
 #define ZEL_CORE_ZELPVT_H
 
 #include "core/text.h"
 
-#include <cstdint>
+#include <atomic>
+#include <cstdlib>
 
 // A program that links the archive keeps the library's identification string, too.
 asm(".globl vrnIdentString");
@@ -12,37 +14,84 @@ asm(".globl vrnIdentString");
 namespace zeli {
 
 // size bytes under the allocator convention; null with ENOMEM.
-void *allocate(std::size_t size, zelAllocFunc alloc, void *context);
+inline void *allocate(std::size_t size, zelAllocFunc alloc, void *context) {
+  void *memory = alloc != nullptr ? alloc(size, context) : context != nullptr ? context : std::malloc(size);
+  if (memory == nullptr)
+    errno = ENOMEM;
+  return memory;
+}
 
 // The one copy at the end of an operation; text may lie in the caller's buffer that it goes to. Null for a text without
 // data (errno is then the writer's), EINVAL for an over-long one.
-char *makeString(Bytes text, zelAllocFunc alloc, void *context);
-char *makeIdent(const Ident &ident, zelAllocFunc alloc, void *context);
-
-// The two conversions of a space: a record with write(Ident, Text &) -> Bytes and read(Bytes, Text &) -> Ident, whose
-// results lie in the input or in the Text.
-template <typename Space> char *writeName(const Space &space, const char *ident, zelAllocFunc alloc, void *context) {
-  const Ident view = identOf(ident);
-  if (view.body.data() == nullptr)
+inline char *makeString(Bytes text, zelAllocFunc alloc, void *context) {
+  if (text.data() == nullptr)
     return nullptr;
-  Text work;
-  return makeString(space.write(view, work), alloc, context);
+  if (text.size() > maxName) {
+    errno = EINVAL;
+    return nullptr;
+  }
+  auto *result = static_cast<char *>(allocate(text.size() + 1, alloc, context));
+  if (result == nullptr)
+    return nullptr;
+  std::memmove(result, text.data(), text.size());
+  result[text.size()] = '\0';
+  return result;
 }
 
-template <typename Space> char *readName(const Space &space, const char *name, zelAllocFunc alloc, void *context) {
-  Text work;
-  return makeIdent(space.read(nameBytes(name), work), alloc, context);
+// The same for an Ident, whose body may be empty; limit is that of the body.
+inline char *makeIdent(const Ident &ident, zelAllocFunc alloc, void *context, std::size_t limit = maxName) {
+  const Bytes body = ident.body;
+  if (body.data() == nullptr)
+    return nullptr;
+  if (body.size() > limit) {
+    errno = EINVAL;
+    return nullptr;
+  }
+  auto *result = static_cast<char *>(allocate(body.size() + 2, alloc, context));
+  if (result == nullptr)
+    return nullptr;
+  std::memmove(result + 1, body.data(), body.size());
+  result[0] = ident.marker;
+  result[body.size() + 1] = '\0';
+  return result;
 }
 
-// For the tests of a character and of a word that has no limit of length.
-inline int isIn(const ByteSet &set, int c) { return set.has(static_cast<char>(c)) ? 1 : 0; }
-inline Bytes wholeBytes(const char *s) { return s == nullptr ? Bytes{} : Bytes{s}; }
-
-// Whether a writer puts the body of ident in lower case.
-bool foldsCase(const Ident &ident);
+// A writer's view of an Ident string; refused (EINVAL) when it is no Ident or its body is over-long.
+inline Ident identOf(const char *ident) {
+  if (ident == nullptr || (*ident != 'S' && *ident != 'I' && *ident != 'F'))
+    return refuseIdent();
+  const Bytes body = nameBytes(ident + 1);
+  return isNameLength(body) ? Ident{*ident, Name(body)} : refuseIdent();
+}
 
 // table and key as in zelTableSearch.
-bool tableHas(const char *const *table, std::int32_t count, Bytes key);
+constexpr bool tableHas(const char *const *table, std::int32_t count, Bytes key) {
+  constexpr std::int32_t scannedWhole = 4;
+  if (count <= scannedWhole) {
+    for (std::int32_t i = 0; i < count; ++i)
+      if (key == table[i])
+        return true;
+    return false;
+  }
+  std::int32_t low = 0;
+  std::int32_t high = count - 1;
+  while (low <= high) {
+    const std::int32_t middle = low + (high - low) / 2;
+    const int order = key.compare(table[middle]);
+    if (order == 0)
+      return true;
+    (order > 0 ? low : high) = order > 0 ? middle + 1 : middle - 1;
+  }
+  return false;
+}
+
+// The mapping state of the process, and how one that is not determined yet is.
+extern std::atomic<std::int32_t> zelMapState;
+std::int32_t resolveMapState();
+inline std::int32_t mapStateOfProcess() {
+  const std::int32_t state = zelMapState.load(std::memory_order_relaxed);
+  return state > ZEL_MAP_RESOLVE ? state : resolveMapState();
+}
 
 } // namespace zeli
 

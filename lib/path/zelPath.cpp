@@ -1,5 +1,5 @@
 // The path object: its memory and its appends.
-#include "path/chunk.h"
+#include "path/zelPath.h"
 
 #include "core/zelpvt.h"
 
@@ -79,8 +79,8 @@ std::uint8_t zeli::lastItem(zelPath head) {
 zelPath zeli::removeLastByte(zelPath head) {
   const zelPath chunk = lastChunk(head);
   --chunk->used;
-  head->last = head;
-  head->walked = nullptr;
+  if (chunk->used == 0 && chunk != head)
+    head->last = chunk->previous;
   return chunk;
 }
 
@@ -149,6 +149,7 @@ zelPath zeliGetNewPath(zelAllocFunc alloc, void *context) {
   chunk->used = 0;
   chunk->slotsUsed = 0;
   chunk->cursor = cursorIdle;
+  chunk->previous = nullptr;
   chunk->last = chunk;
   chunk->walked = nullptr;
   return chunk;
@@ -163,21 +164,15 @@ zelPath zeliPathAdd(zelPath chunk, std::size_t bytesNeeded, std::size_t slotsNee
     return nullptr;
   chunk->next = behind;
   behind->head = chunk->head;
+  behind->previous = chunk;
   behind->used = 0;
   behind->slotsUsed = 0;
   return behind;
 }
 
-std::uint8_t zeliPrevItem(zelPath head, zelPath chunk, std::size_t position, zelPath *found) {
-  if (position == 0) {
-    zelPath before = head;
-    while (before != nullptr && before->next != chunk)
-      before = before->next;
-    if (before == nullptr) {
-      *found = chunk;
-      return kindNone;
-    }
-    chunk = before;
+std::uint8_t zeliPrevItem(const zelPathRecord *head, zelPath chunk, std::size_t position, zelPath *found) {
+  if (position == 0 && chunk != head && chunk->previous != nullptr) {
+    chunk = chunk->previous;
     position = chunk->used;
   }
   *found = chunk;

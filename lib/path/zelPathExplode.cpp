@@ -1,4 +1,4 @@
-#include "path/explode.h"
+#include "path/zelPathExplode.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -16,8 +16,8 @@ bool isRepeat(Cursor cursor) { return !cursor.atEnd() && isForm(cursor.kind(), k
 
 // Setup ----------------------------------------------------------------------------------------------------------
 
-explNode *makeNode(Explosion &explosion, NodeKind kind, Cursor item) {
-  auto *node = static_cast<explNode *>(std::calloc(1, sizeof(explNode)));
+ExplosionNode *makeNode(Explosion &explosion, NodeKind kind, Cursor item) {
+  auto *node = static_cast<ExplosionNode *>(std::calloc(1, sizeof(ExplosionNode)));
   if (node == nullptr) {
     explosion.isWhole = false;
     errno = ENOMEM;
@@ -30,7 +30,7 @@ explNode *makeNode(Explosion &explosion, NodeKind kind, Cursor item) {
   return node;
 }
 
-void link(Explosion &explosion, explNode *node, Cursor anchor) {
+void link(Explosion &explosion, ExplosionNode *node, Cursor anchor) {
   node->start = anchor;
   node->prev = explosion.last;
   (explosion.last == nullptr ? explosion.first : explosion.last->next) = node;
@@ -38,33 +38,33 @@ void link(Explosion &explosion, explNode *node, Cursor anchor) {
 }
 
 // The node below any that only pass its values on: however deep the brackets are, a value costs no walk through them.
-explNode *source(explNode *node) { return node->only != nullptr ? node->only : node; }
+ExplosionNode *source(ExplosionNode *node) { return node->only != nullptr ? node->only : node; }
 
-void setParent(explNode *inner, explNode *outer) {
+void setParent(ExplosionNode *inner, ExplosionNode *outer) {
   inner->parent = outer;
   source(inner)->parent = outer;
 }
 
 // While a list is being set up, its ahead is its last child.
-void adopt(explNode *list, explNode *node) {
+void adopt(ExplosionNode *list, ExplosionNode *node) {
   setParent(node, list);
   node->prev = list->ahead;
   (list->ahead == nullptr ? list->child : list->ahead->next) = node;
   list->ahead = node;
 }
 
-void disown(explNode *list, const explNode *lastChild) {
+void disown(ExplosionNode *list, const ExplosionNode *lastChild) {
   list->ahead = lastChild->prev;
   (list->ahead == nullptr ? list->child : list->ahead->next) = nullptr;
 }
 
-void beginList(explNode *list, Cursor firstElement) { list->firstElement = list->element = firstElement; }
+void beginList(ExplosionNode *list, Cursor firstElement) { list->firstElement = list->element = firstElement; }
 
-void endList(explNode *list, Cursor lastElement, Cursor end) {
+void endList(ExplosionNode *list, Cursor lastElement, Cursor end) {
   list->lastElement = lastElement;
   list->end = end;
   list->ahead = list->child;
-  explNode *const child = list->child;
+  ExplosionNode *const child = list->child;
   if (child != nullptr && child->item == list->firstElement && child->end == lastElement) {
     list->only = source(child);
     setParent(list, list->parent);
@@ -72,12 +72,12 @@ void endList(explNode *list, Cursor lastElement, Cursor end) {
 }
 
 // The node of a range or step range that the mask expands.
-explNode *makeValueNode(Explosion &explosion, Cursor item, std::uint32_t mask) {
+ExplosionNode *makeValueNode(Explosion &explosion, Cursor item, std::uint32_t mask) {
   const std::uint8_t kind = item.kind();
-  explNode *node = nullptr;
-  if (isForm(kind, kindRange) && (mask & EXPLODE_RANGE) != 0)
+  ExplosionNode *node = nullptr;
+  if (isForm(kind, kindRange) && (mask & explodeRange) != 0)
     node = makeNode(explosion, NodeKind::range, item);
-  else if (isForm(kind, kindStepRange) && (mask & EXPLODE_STEP) != 0)
+  else if (isForm(kind, kindStepRange) && (mask & explodeStep) != 0)
     node = makeNode(explosion, NodeKind::step, item);
   if (node != nullptr)
     node->end = item.next();
@@ -85,8 +85,8 @@ explNode *makeValueNode(Explosion &explosion, Cursor item, std::uint32_t mask) {
 }
 
 // A node for an index and the repeat behind it. child is the node of the index, if it has one.
-explNode *makeRepeatNode(Explosion &explosion, Cursor index, Cursor repeat, explNode *child) {
-  explNode *node = makeNode(explosion, NodeKind::repeat, index);
+ExplosionNode *makeRepeatNode(Explosion &explosion, Cursor index, Cursor repeat, ExplosionNode *child) {
+  ExplosionNode *node = makeNode(explosion, NodeKind::repeat, index);
   if (node == nullptr)
     return nullptr;
   node->count = repeat.number(0);
@@ -99,24 +99,24 @@ explNode *makeRepeatNode(Explosion &explosion, Cursor index, Cursor repeat, expl
   return node;
 }
 
-explNode *setupExplodeIRepeat(Explosion &explosion, Cursor index) {
+ExplosionNode *setupExplodeIRepeat(Explosion &explosion, Cursor index) {
   // What is repeated is written value by value, whatever the mask says of ranges elsewhere.
-  explNode *child = makeValueNode(explosion, index, EXPLODE_ALL);
+  ExplosionNode *child = makeValueNode(explosion, index, explodeAll);
   return explosion.isWhole ? makeRepeatNode(explosion, index, index.next(), child) : nullptr;
 }
 
 // A node for the run of indexes at cursor; bracketed lists inside it are elements of their own. Null without memory.
-explNode *setupExplodeMulti(Explosion &explosion, Cursor cursor, std::uint32_t mask) {
-  explNode *const run = makeNode(explosion, NodeKind::list, cursor);
+ExplosionNode *setupExplodeMulti(Explosion &explosion, Cursor cursor, std::uint32_t mask) {
+  ExplosionNode *const run = makeNode(explosion, NodeKind::list, cursor);
   if (run == nullptr)
     return nullptr;
   beginList(run, cursor);
 
-  explNode *list = run;
+  ExplosionNode *list = run;
   while (!cursor.atEnd() && isIndexLike(cursor.kind())) {
     const Cursor item = cursor;
     cursor = cursor.next();
-    explNode *element = nullptr;
+    ExplosionNode *element = nullptr;
     if (item.kind() == kindIndexListStart) {
       element = makeNode(explosion, NodeKind::list, item);
       if (element == nullptr)
@@ -134,7 +134,7 @@ explNode *setupExplodeMulti(Explosion &explosion, Cursor cursor, std::uint32_t m
         list = list->parent;
         continue;
       }
-      explNode *const repeated = list;
+      ExplosionNode *const repeated = list;
       list = list->parent;
       disown(list, repeated);
       element = makeRepeatNode(explosion, repeated->item, cursor, repeated);
@@ -156,12 +156,12 @@ explNode *setupExplodeMulti(Explosion &explosion, Cursor cursor, std::uint32_t m
 }
 
 // The node for an index that stands in front of another index or a repeat; null when the mask leaves it alone.
-explNode *setupCombined(Explosion &explosion, Cursor cursor, Cursor behind, std::uint32_t mask) {
+ExplosionNode *setupCombined(Explosion &explosion, Cursor cursor, Cursor behind, std::uint32_t mask) {
   if (!isIndexLike(cursor.kind()) || behind.atEnd())
     return nullptr;
-  if (isIndexLike(behind.kind()) && (mask & EXPLODE_MULTI) != 0)
+  if (isIndexLike(behind.kind()) && (mask & explodeMulti) != 0)
     return setupExplodeMulti(explosion, cursor, mask);
-  if (isRepeat(behind) && (mask & EXPLODE_INDEX_REPEAT) != 0)
+  if (isRepeat(behind) && (mask & explodeIndexRepeat) != 0)
     return setupExplodeIRepeat(explosion, cursor);
   return nullptr;
 }
@@ -183,7 +183,7 @@ Cursor groupEnd(Explosion &explosion, Cursor cursor, std::uint32_t mask) {
       return takesList ? behind : cursor;
     if (kind == kindList && !takesList)
       return cursor;
-    const explNode *node = setupCombined(explosion, cursor, behind, mask);
+    const ExplosionNode *node = setupCombined(explosion, cursor, behind, mask);
     if (node == nullptr && (kind == kindIndexListStart || kind == kindIndexListEnd) && explosion.isWhole)
       stopAtIllegalPosition();
     cursor = node != nullptr ? node->end : behind;
@@ -194,14 +194,14 @@ Cursor groupEnd(Explosion &explosion, Cursor cursor, std::uint32_t mask) {
 // Values ---------------------------------------------------------------------------------------------------------
 
 // The node of the current element of a list, if it has one.
-explNode *currentChild(const explNode *list) {
+ExplosionNode *currentChild(const ExplosionNode *list) {
   return list->ahead != nullptr && list->ahead->item == list->element ? list->ahead : nullptr;
 }
 
 // The innermost node that the current value of a node comes from.
-explNode *active(explNode *node) {
+ExplosionNode *active(ExplosionNode *node) {
   for (;;) {
-    explNode *inner = node->only;
+    ExplosionNode *inner = node->only;
     if (inner == nullptr && node->kind == NodeKind::list)
       inner = currentChild(node);
     else if (inner == nullptr && node->kind == NodeKind::repeat)
@@ -212,35 +212,34 @@ explNode *active(explNode *node) {
   }
 }
 
-std::int64_t valueAt(const explNode *node, std::int64_t counter) {
+// The values of a range or step range from the one that its counter gives.
+NodeValues valuesAt(const ExplosionNode *node, std::int64_t counter) {
   const std::int64_t first = node->item.number(0);
+  const std::int64_t last = node->item.number(1);
   const std::int64_t step = node->kind == NodeKind::step ? node->item.number(2) : 1;
-  return first < node->item.number(1) ? first + counter * step : first - counter * step;
-}
-
-bool hasPassed(const explNode *node, std::int64_t value) {
-  const std::int32_t last = node->item.number(1);
-  return node->item.number(0) < last ? value > last : value < last;
+  const bool isRising = first < last;
+  const std::int64_t signedStep = isRising ? step : -step;
+  return {first + counter * signedStep, signedStep, last, isRising};
 }
 
 // A bracket that a cut path ends in.
-bool isEmpty(const explNode *list) { return list->firstElement == list->lastElement; }
+bool isEmpty(const ExplosionNode *list) { return list->firstElement == list->lastElement; }
 
 // Carries --------------------------------------------------------------------------------------------------------
 
 // Moves one node on, those inside it having run through their values.
-bool advance(explNode *node) {
+bool advance(ExplosionNode *node) {
   switch (node->kind) {
   case NodeKind::range:
   case NodeKind::step:
-    if (!hasPassed(node, valueAt(node, ++node->counter)))
+    if (!valuesAt(node, ++node->counter).areOver())
       return false;
     node->counter = 0;
     return true;
   case NodeKind::list:
     if (isEmpty(node))
       return true;
-    if (const explNode *child = currentChild(node); child != nullptr) {
+    if (const ExplosionNode *child = currentChild(node); child != nullptr) {
       node->element = child->end;
       node->ahead = child->next;
     } else {
@@ -266,6 +265,32 @@ bool advance(explNode *node) {
 
 } // namespace
 
+bool zeli::isExpanded(const zelPathRecord *path, std::uint32_t mask) {
+  bool isBehindIndex = false;
+  for (const zelPathRecord *chunk = path; chunk != nullptr && chunk->used != 0; chunk = chunk->next)
+    for (std::size_t position = 0; position < chunk->used;) {
+      const std::uint8_t kind = chunk->items[position];
+      position += itemSize(kind);
+      std::uint32_t forms = 0;
+      if (isForm(kind, kindRange))
+        forms = explodeRange;
+      else if (isForm(kind, kindStepRange))
+        forms = explodeStep;
+      else if (isForm(kind, kindGroupRepeat))
+        forms = explodeGroupRepeat;
+      else if (isForm(kind, kindIndexRepeat))
+        forms = explodeIndexRepeat;
+      else if (isIndexLike(kind) && !isAnyIndex(kind))
+        forms = explodeAll; // a bracket may also be illegal
+      if (isAnyIndex(kind) && isBehindIndex)
+        forms |= explodeMulti;
+      if ((forms & mask) != 0)
+        return true;
+      isBehindIndex = isAnyIndex(kind);
+    }
+  return false;
+}
+
 void zeli::setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask) {
   // The first identifier of the name being read is the anchor of its nodes.
   Cursor anchor = firstItem(path);
@@ -273,7 +298,7 @@ void zeli::setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask) 
   for (Cursor cursor = anchor; !cursor.atEnd() && explosion.isWhole;) {
     const std::uint8_t kind = cursor.kind();
     const Cursor behind = cursor.next();
-    if (explNode *node = setupCombined(explosion, cursor, behind, mask); node != nullptr) {
+    if (ExplosionNode *node = setupCombined(explosion, cursor, behind, mask); node != nullptr) {
       link(explosion, node, anchor);
       cursor = node->end;
       continue;
@@ -287,7 +312,7 @@ void zeli::setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask) 
     case kindStepRange:
     case kindStepRange + 1:
       isAnchorPending = false;
-      if (explNode *node = makeValueNode(explosion, cursor, mask); node != nullptr)
+      if (ExplosionNode *node = makeValueNode(explosion, cursor, mask); node != nullptr)
         link(explosion, node, anchor);
       break;
     case kindIndexRepeat:
@@ -297,8 +322,8 @@ void zeli::setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask) 
     case kindGroupRepeat:
     case kindGroupRepeat + 1:
       isAnchorPending = true;
-      if ((mask & EXPLODE_GROUP_REPEAT) != 0) {
-        explNode *node = makeNode(explosion, NodeKind::groupRepeat, {});
+      if ((mask & explodeGroupRepeat) != 0) {
+        ExplosionNode *node = makeNode(explosion, NodeKind::groupRepeat, {});
         if (node == nullptr)
           return;
         node->end = groupEnd(explosion, behind, mask);
@@ -327,13 +352,13 @@ void zeli::setupExplode(Explosion &explosion, zelPath path, std::uint32_t mask) 
 
 void zeli::freeExpl(Explosion &explosion) {
   while (explosion.made != nullptr) {
-    explNode *node = explosion.made;
+    ExplosionNode *node = explosion.made;
     explosion.made = node->made;
     std::free(node);
   }
 }
 
-IndexValue zeli::getIndexValue(explNode *node) {
+IndexValue zeli::getIndexValue(ExplosionNode *node) {
   if (node->current == nullptr)
     node->current = active(node);
   node = node->current;
@@ -344,17 +369,17 @@ IndexValue zeli::getIndexValue(explNode *node) {
     return {node->item, 0};
   case NodeKind::range:
   case NodeKind::step:
-    return {{}, static_cast<std::int32_t>(valueAt(node, node->counter))};
+    return {{}, static_cast<std::int32_t>(valuesAt(node, node->counter).next)};
   case NodeKind::groupRepeat:
     break;
   }
   return {{}, -1};
 }
 
-bool zeli::incrementIndex(explNode *node) {
+bool zeli::incrementIndex(ExplosionNode *node) {
   // What only passes values on is skipped, also when it is the outermost.
-  const explNode *const outermost = source(node);
-  explNode *inner = node->current != nullptr ? node->current : active(node);
+  const ExplosionNode *const outermost = source(node);
+  ExplosionNode *inner = node->current != nullptr ? node->current : active(node);
   bool carries = advance(inner);
   while (carries && inner != node && inner != outermost) {
     inner = inner->parent;
@@ -363,3 +388,9 @@ bool zeli::incrementIndex(explNode *node) {
   node->current = active(inner);
   return carries;
 }
+
+bool zeli::hasNumbers(const ExplosionNode *node) {
+  return node->kind == NodeKind::range || node->kind == NodeKind::step;
+}
+
+NodeValues zeli::valuesFrom(const ExplosionNode *node) { return valuesAt(node, node->counter); }

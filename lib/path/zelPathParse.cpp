@@ -1,8 +1,8 @@
-#include "path/parse.h"
+#include "path/zelPathParse.h"
 
 using namespace zeli;
 
-zelPath zeli::startPath(const char *text, const Language &language, zelHandle handle, zelAllocFunc alloc,
+zelPath zeli::parsePath(const PathLanguage &language, const char *text, zelHandle handle, zelAllocFunc alloc,
                         void *context) {
   if (text == nullptr) {
     errno = EINVAL;
@@ -13,22 +13,18 @@ zelPath zeli::startPath(const char *text, const Language &language, zelHandle ha
     return nullptr;
   path->slots[path->slotsUsed++].string = text;
   path->flags |= static_cast<std::uint32_t>(language.code) << languageShift;
-  path->handle = handle;
-  return path;
+  path->handle = separatingHandle(language, handle);
+  return language.reader.grammar(path, language, text);
 }
 
-bool zeli::readName(zelPath path, const Language &language, const char *&text, Kind mark) {
-  const char *end = language.scan(text, path->handle);
+bool zeli::appendName(zelPath path, const PathLanguage &language, const char *&text, Kind mark) {
+  const NameReader &names = language.names;
+  const char *end = names.scan(text, path->handle);
   const auto length = static_cast<std::size_t>(end - text);
   if (length > maxName)
     return false;
-  if (language.isLegal != nullptr) {
-    char name[maxName + 1];
-    std::memcpy(name, text, length);
-    name[length] = '\0';
-    if (language.isLegal(name) == 0)
-      return false;
-  }
+  if (names.tested != nullptr && !names.tested->isLegal(Name(Bytes(text, length)), {}))
+    return false;
   if (!appendPointers(path, mark, kindTextIdent, 1, &text))
     return false;
   text = end;

@@ -1,6 +1,6 @@
 // The ORKA path grammar: levels joined by '/', indexes in angle brackets with ranges, steps, lists and repeats, lists
 // in parentheses, and repeated groups behind a prefix <*count>.
-#include "path/parse.h"
+#include "path/zelPathParse.h"
 
 using namespace zeli;
 
@@ -16,13 +16,19 @@ const char *rejectIndex(zelPath path, const char *text) {
   return text;
 }
 
-// Appends the list starts that were read since the last item. They wait for an item, since a list of a refused index
-// that nothing was read for could not be printed.
+// Appends the list starts that were read since the last item. They wait for an item, since a list that nothing was read
+// for could not be printed.
 bool appendListStarts(zelPath path, int &pending) {
   for (; pending > 0; --pending)
     if (!append(path, kindIndexListStart))
       return false;
   return true;
+}
+
+// Takes back those whose item could not be added.
+void removeListStarts(zelPath path) {
+  while (lastItem(path) == kindIndexListStart)
+    removeLastByte(path);
 }
 
 // Reads one index, text standing behind its '<', and returns the place behind its '>'.
@@ -34,9 +40,9 @@ const char *parseORKAIndex(zelPath path, const char *text) {
   int depth = 0;
   int pendingStarts = 0;
 
-  for (;; ++text) {
-    const char c = *text;
-    if (digit.has(c)) {
+  for (;;) {
+    switch (digit.has(*text) ? aNumber : *text) {
+    case aNumber: {
       const char *const number = text;
       const std::int32_t value = readDigits(text);
       if (!isNumber(value) || isOneOf(state, {first, second, third, count}))
@@ -64,13 +70,12 @@ const char *parseORKAIndex(zelPath path, const char *text) {
         isAdded = isAdded && (goesOn || appendNumber(path, kindIndex, from));
         state = first;
       }
-      if (!isAdded)
+      if (!isAdded) {
+        removeListStarts(path);
         return rejectIndex(path, number);
-      --text; // the loop steps on
+      }
       continue;
     }
-
-    switch (c) {
     case '>':
       if (depth != 0 || !isOneOf(state, {first, second, third, count, listEnd}))
         return rejectIndex(path, text);
@@ -107,21 +112,38 @@ const char *parseORKAIndex(zelPath path, const char *text) {
     default:
       return rejectIndex(path, text);
     }
+    ++text;
   }
 }
 
-zelPath parse(zelPath path, const char *text) {
-  using enum State;
+// A number is one only in a repeat prefix, and so is the star in front of it; everywhere else they belong to names.
+char classOf(State state, char c) {
   constexpr ByteSet nameStart = graphic - chars("(),/<>");
+  if (state == State::star && digit.has(c))
+    return aNumber;
+  return nameStart.has(c) && !(state == State::less && c == '*') ? aName : c;
+}
+
+} // namespace
+
+zelPath zeli::parseORKA(zelPath path, const PathLanguage &language, const char *text) {
+  using enum State;
   State state = start;
   bool topPending = false;
   int depth = 0;
 
   for (;;) {
-    const char c = *text;
-    if (c == '\0')
+    switch (classOf(state, *text)) {
+    case '\0':
       return depth < 1 && isOneOf(state, {name, listEnd, index}) ? path : reject(path);
-    if (state == star && digit.has(c)) {
+    case aName:
+      if (!appendName(path, language, text, topPending ? kindTopMark : kindNone) ||
+          isOneOf(state, {less, star, count, name, listEnd}))
+        return reject(path);
+      topPending = false;
+      state = name;
+      continue;
+    case aNumber: {
       const std::int32_t value = readDigits(text);
       if (!isNumber(value))
         return reject(path);
@@ -131,16 +153,6 @@ zelPath parse(zelPath path, const char *text) {
       state = count;
       continue;
     }
-    if (nameStart.has(c) && !(state == less && c == '*')) {
-      if (!readName(path, orkaLanguage, text, topPending ? kindTopMark : kindNone) ||
-          isOneOf(state, {less, star, count, name, listEnd}))
-        return reject(path);
-      topPending = false;
-      state = name;
-      continue;
-    }
-
-    switch (c) {
     case '*':
       state = star;
       break;
@@ -195,11 +207,4 @@ zelPath parse(zelPath path, const char *text) {
     }
     ++text;
   }
-}
-
-} // namespace
-
-zelPath zelParseORKA(const char *text, zelHandle, zelAllocFunc alloc, void *context) noexcept {
-  const zelPath path = startPath(text, orkaLanguage, nullptr, alloc, context);
-  return path == nullptr ? nullptr : parse(path, text);
 }

@@ -1,5 +1,5 @@
 // SPICE paths: levels joined by '.'. Brackets belong to the names, there is no bus syntax.
-#include "path/parse.h"
+#include "path/zelPathParse.h"
 
 using namespace zeli;
 
@@ -7,33 +7,37 @@ namespace {
 
 enum class State { start, name, dot };
 
-zelPath parse(zelPath path, const char *text) {
-  using enum State;
+char classOf(char c) {
   constexpr ByteSet nameStart = graphic - chars(".[]");
-  State state = start;
-  for (; *text != '\0';) {
-    if (nameStart.has(*text)) {
-      if (!readName(path, spiceLanguage, text) || state == name)
-        return reject(path);
-      state = name;
-      continue;
-    }
-    if (*text == '.') {
-      if (state != name)
-        return reject(path);
-      path->flags |= flagHierarchy;
-      state = dot;
-    } else if (!blank.has(*text)) {
-      return reject(path);
-    }
-    ++text;
-  }
-  return state == dot ? reject(path) : path;
+  return nameStart.has(c) ? aName : c;
 }
 
 } // namespace
 
-zelPath zelParseSpice(const char *text, zelHandle, zelAllocFunc alloc, void *context) noexcept {
-  const zelPath path = startPath(text, spiceLanguage, nullptr, alloc, context);
-  return path == nullptr ? nullptr : parse(path, text);
+zelPath zeli::parseSpice(zelPath path, const PathLanguage &language, const char *text) {
+  using enum State;
+  State state = start;
+  for (;;) {
+    switch (classOf(*text)) {
+    case '\0':
+      return state == dot ? reject(path) : path;
+    case aName:
+      if (!appendName(path, language, text) || state == name)
+        return reject(path);
+      state = name;
+      continue;
+    case '.':
+      if (state != name)
+        return reject(path);
+      path->flags |= flagHierarchy;
+      state = dot;
+      break;
+    case ' ':
+    case '\t':
+      break;
+    default:
+      return reject(path);
+    }
+    ++text;
+  }
 }

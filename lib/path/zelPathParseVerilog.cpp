@@ -1,6 +1,6 @@
 // The path grammar of Verilog, Kirra and KirraHDL: levels joined by '.', an index or range in brackets, lists and
 // repeated groups in braces.
-#include "path/parse.h"
+#include "path/zelPathParse.h"
 
 using namespace zeli;
 
@@ -8,9 +8,15 @@ namespace {
 
 enum class State { start, name, comma, dot, brace, bracket, number, colon, second };
 
-constexpr ByteSet nameStart = letter | chars("\\_");
+char classOf(char c) {
+  constexpr ByteSet nameStart = letter | chars("\\_");
+  constexpr ByteSet numberStart = digit | sign;
+  return nameStart.has(c) ? aName : numberStart.has(c) ? aNumber : c;
+}
 
-zelPath parse(zelPath path, const Language &language, const char *text) {
+} // namespace
+
+zelPath zeli::parseVerilog(zelPath path, const PathLanguage &language, const char *text) {
   using enum State;
   State state = start;
   bool inBracket = false;
@@ -20,19 +26,20 @@ zelPath parse(zelPath path, const Language &language, const char *text) {
   std::int32_t last = 0;
 
   for (;;) {
-    const char c = *text;
-    if (c == '\0') {
-      const bool isComplete = depth == 0 && !braceOpen && !inBracket && state != comma && state != dot;
+    switch (classOf(*text)) {
+    case '\0': {
+      const bool isComplete = depth == 0 && !braceOpen && !inBracket && !isOneOf(state, {comma, dot});
       return isComplete ? path : reject(path);
     }
-    if (nameStart.has(c)) {
-      if (!readName(path, language, text) || inBracket || state == name)
+    case aName:
+      if (!appendName(path, language, text) || inBracket || state == name)
         return reject(path);
       state = name;
       continue;
-    }
-    const bool takesNumber = (inBracket && isOneOf(state, {bracket, colon})) || state == brace;
-    if (takesNumber && (digit.has(c) || sign.has(c))) {
+    case aNumber: {
+      const bool isExpected = (inBracket && isOneOf(state, {bracket, colon})) || state == brace;
+      if (!isExpected)
+        return reject(path);
       const std::int32_t value = readSigned(text);
       if (!isNumber(value))
         return reject(path);
@@ -40,8 +47,6 @@ zelPath parse(zelPath path, const Language &language, const char *text) {
       state = state == colon ? second : number;
       continue;
     }
-
-    switch (c) {
     case '.':
       if (inBracket || !isOneOf(state, {name, bracket}))
         return reject(path);
@@ -105,27 +110,4 @@ zelPath parse(zelPath path, const Language &language, const char *text) {
     }
     ++text;
   }
-}
-
-zelPath parse(const char *text, const Language &language, zelAllocFunc alloc, void *context) {
-  const zelPath path = startPath(text, language, nullptr, alloc, context);
-  return path == nullptr ? nullptr : parse(path, language, text);
-}
-
-} // namespace
-
-zelPath zelParseVerilog(const char *text, zelHandle, zelAllocFunc alloc, void *context) noexcept {
-  return parse(text, verilogLanguage, alloc, context);
-}
-
-zelPath zelParseVerilogAMS(const char *text, zelHandle, zelAllocFunc alloc, void *context) noexcept {
-  return parse(text, verilogAMSLanguage, alloc, context);
-}
-
-zelPath zelParseKirra(const char *text, zelHandle, zelAllocFunc alloc, void *context) noexcept {
-  return parse(text, kirraLanguage, alloc, context);
-}
-
-zelPath zelParseKirraHDL(const char *text, zelHandle, zelAllocFunc alloc, void *context) noexcept {
-  return parse(text, kirraHDLLanguage, alloc, context);
 }

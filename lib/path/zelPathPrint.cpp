@@ -1,7 +1,9 @@
-// The printing driver and the public printers.
-#include "path/print.h"
+// The printing driver.
+#include "path/zelPathPrint.h"
 
 #include "core/zelpvt.h"
+
+#include "path/zelPathIdent.h"
 
 #include <iterator>
 
@@ -23,37 +25,60 @@ bool endsName(std::uint8_t kind) {
   }
 }
 
-// The text of a name in front of its first node's item, which is the same for every combination that begins in the same
-// state. Kept so that its identifiers are not written anew for every bit.
-struct Prefix {
+// Writes the decimal digits of a number, and returns where they end.
+char *writeNumber(char *out, std::int32_t number) {
+  auto magnitude = static_cast<std::uint32_t>(number);
+  if (number < 0) {
+    *out++ = '-';
+    magnitude = 0 - magnitude;
+  }
+  std::size_t count = 1;
+  for (std::uint64_t limit = 10; magnitude >= limit; limit *= 10)
+    ++count;
+  for (char *at = out + count; at != out; magnitude /= 10)
+    *--at = static_cast<char>('0' + magnitude % 10);
+  return out + count;
+}
+
+// What is kept of a combination for the next: the text in front of the last node's item, which is the same as long as
+// no other node moves on and combinations begin in the same state, so that identifiers are not written anew for every
+// bit; and where the last node's number stands.
+struct Combination {
   bool isKnown = false;
   std::uint32_t startState = 0;
   std::uint32_t endState = 0;
-  Bytes text;
+  Bytes prefix;
+  std::size_t numberStart = 0;
+  std::size_t numberEnd = 0;
 };
 
 // Writes one combination: the name from its start, each node's item replaced by the node's value. Returns where the
 // name ended.
-Cursor printCombination(PrintRun &run, explNode *first, const explNode *last, Prefix &prefix) {
+Cursor printCombination(PrintRun &run, ExplosionNode *first, ExplosionNode *last, Combination &known) {
   run.guard();
   const std::uint32_t startState = run.state;
   const std::size_t startSize = run.size;
-  explNode *node = first;
+  ExplosionNode *node = first;
   Cursor cursor = first->start;
-  if (prefix.isKnown && prefix.startState == startState) {
-    run.put(prefix.text);
-    run.state = prefix.endState;
-    cursor = first->item;
+  if (known.isKnown && known.startState == startState) {
+    run.put(known.prefix);
+    run.state = known.endState;
+    cursor = last->item;
+    node = last;
   }
   while (!cursor.atEnd()) {
     if (node != nullptr && node->item == cursor) {
-      if (node == first)
-        prefix = {true, startState, run.state, {run.text + startSize, run.size - startSize}};
+      if (node == last)
+        known = {true, startState, run.state, {run.text + startSize, run.size - startSize}};
       const IndexValue value = getIndexValue(node);
       if (value.item.atEnd())
         run.value(value.number);
       else
         run.item(value.item);
+      if (node == last) {
+        known.numberStart = run.numberStart;
+        known.numberEnd = run.numberEnd;
+      }
       cursor = node->end;
       node = node == last ? nullptr : node->next;
       continue;
@@ -66,20 +91,51 @@ Cursor printCombination(PrintRun &run, explNode *first, const explNode *last, Pr
   return cursor;
 }
 
+// Writes the combinations behind two that began in the same state: what stands between their numbers stands in front of
+// each further one, too.
+void repeatCombination(PrintRun &run, std::size_t numberEnd, const Combination &known, NodeValues values) {
+  constexpr std::size_t block = 16;
+  char between[maxName + block];
+  const std::size_t size = known.numberStart - numberEnd;
+  std::memcpy(between, run.text + numberEnd, size);
+  // It begins with the end of a name, which is taken back here.
+  const Bytes nameEnd = {between, run.size - known.numberEnd};
+  char *end = run.text + known.numberEnd;
+  const char *const longest = run.text + maxName;
+  for (; !values.areOver() && end <= longest; values.next += values.step) {
+    for (std::size_t at = 0; at < size; at += block)
+      std::memcpy(end + at, between + at, block);
+    end = writeNumber(end + size, static_cast<std::int32_t>(values.next));
+  }
+  run.size = static_cast<std::size_t>(end - run.text);
+  run.guard();
+  run.put(nameEnd);
+}
+
 // Writes a name once for every combination of the values of its nodes, the last node varying fastest. Gives up once the
 // text is over-long, so that an enumeration without end does end.
-Cursor walkIndex(PrintRun &run, explNode *first) {
-  explNode *last = first;
+Cursor walkIndex(PrintRun &run, ExplosionNode *first) {
+  ExplosionNode *last = first;
   while (last->next != nullptr && last->next->start == first->start)
     last = last->next;
-  Prefix prefix;
+  Combination known;
   for (;;) {
-    const Cursor end = printCombination(run, first, last, prefix);
-    explNode *node = last;
-    while (incrementIndex(node)) {
+    const bool isLikeLast = known.isKnown && known.startState == run.state;
+    const std::size_t lastNumberEnd = known.numberEnd;
+    const Cursor end = printCombination(run, first, last, known);
+    ExplosionNode *node = last;
+    bool carries = incrementIndex(node);
+    if (!carries && isLikeLast && hasNumbers(last) && !run.isOverlong()) {
+      repeatCombination(run, lastNumberEnd, known, valuesFrom(last));
+      last->counter = 0;
+      carries = true;
+    }
+    while (carries) {
       if (node == first)
         return end;
+      known.isKnown = false;
       node = node->prev;
+      carries = incrementIndex(node);
     }
     if (run.isOverlong())
       return end;
@@ -87,7 +143,7 @@ Cursor walkIndex(PrintRun &run, explNode *first) {
   }
 }
 
-void printItems(PrintRun &run, explNode *node) {
+void printItems(PrintRun &run, ExplosionNode *node) {
   Cursor cursor = firstItem(run.path);
   while (!cursor.atEnd()) {
     if (node == nullptr || node->start != cursor) {
@@ -103,7 +159,7 @@ void printItems(PrintRun &run, explNode *node) {
 }
 
 void openGroup(PrintRun &run) {
-  if (run.target.braces == Braces::verilog) {
+  if (run.language.writer.braces == Braces::verilog) {
     if ((zelPathGetFlag(run.path) & ZEL_PATH_SINGLE_VERILOG) != 0)
       return;
     run.put('{');
@@ -114,41 +170,43 @@ void openGroup(PrintRun &run) {
 } // namespace
 
 // cppcheck-suppress uninitMemberVar ; the text is deliberately not cleared for every name
-PrintRun::PrintRun(const Target &printTarget, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask)
-    : target(printTarget), path(printedPath), handle(givenHandle), separators(printTarget.separators), state(mask) {
-  if (target.defaultHandle == nullptr)
-    return;
-  if (handle == nullptr)
-    handle = *target.defaultHandle;
-  separators = handle->separators;
-}
+PrintRun::PrintRun(const PathLanguage &target, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask,
+                   bool isTransientPath)
+    : language(target), path(printedPath), handle(separatingHandle(target, givenHandle)),
+      marks(marksOf(handle, target.writer.marks)), state(mask), isTransient(isTransientPath) {}
 
 void PrintRun::putNumber(std::int32_t number) {
-  if (number < 0)
-    put('-');
-  auto magnitude = static_cast<std::uint32_t>(number);
-  if (number < 0)
-    magnitude = 0 - magnitude;
-  char digits[10];
-  char *const end = std::end(digits);
-  char *first = end;
-  do {
-    *--first = static_cast<char>('0' + magnitude % 10);
-    magnitude /= 10;
-  } while (magnitude != 0);
-  put(Bytes{first, static_cast<std::size_t>(end - first)});
+  numberStart = size;
+  numberEnd = size = static_cast<std::size_t>(writeNumber(text + size, number) - text);
 }
 
-void PrintRun::putIdent(const char *ident) {
+void PrintRun::putIdent(const Ident &ident) {
   guard();
-  char *const out = text + size;
-  const char *name = target.identToNameWithHandle != nullptr ? target.identToNameWithHandle(ident, nullptr, out, handle)
-                                                             : target.identToName(ident, nullptr, out);
-  if (name != nullptr)
-    size += std::strlen(name);
+  if (!isNameLength(ident.body)) {
+    refuse();
+    return;
+  }
+  const Operations &names = *language.writer.names;
+  Text work;
+  const Bytes name = names.write(ident, {.handle = handle}, work);
+  leaveHandle(names);
+  if (name.size() > maxName)
+    refuse();
+  else if (name.data() != nullptr)
+    put(name);
 }
+
+void PrintRun::putIdent(const char *ident) { putIdent(identOf(ident)); }
 
 void PrintRun::putIdentAt(Cursor cursor) {
+  if (isText(cursor.kind()) && isTransient) {
+    const PathLanguage &source = *languageOf(path);
+    Text work;
+    const Ident ident = readText(source, path, cursor.chunk->slots[slotOf(cursor.kind())].string, work);
+    leaveHandle(*source.names.read);
+    putIdent(ident);
+    return;
+  }
   if (isText(cursor.kind()))
     zelStrToIdent(cursor.chunk, cursor.position);
   // Only memory keeps a text from becoming an Ident, be it a null one.
@@ -160,43 +218,45 @@ void PrintRun::putIdentAt(Cursor cursor) {
 
 void PrintRun::item(Cursor cursor) {
   guard();
-  target.printer.item(*this, cursor);
+  language.writer.printer->item(*this, cursor);
 }
 
 void PrintRun::value(std::int32_t index) {
   guard();
-  target.printer.value(*this, index);
+  language.writer.printer->value(*this, index);
 }
 
 void PrintRun::alternative() {
   guard();
-  target.printer.alternative(*this);
+  language.writer.printer->alternative(*this);
 }
 
-char *zeli::printPath(const Target &target, zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc,
-                      void *context) {
+char *zeli::printPath(const PathLanguage &language, zelPath path, zelHandle handle, std::int32_t flags,
+                      zelAllocFunc alloc, void *context, bool isTransient) {
   if (firstItem(path).atEnd())
     return makeString("", alloc, context);
   const auto isAsked = [flags](int flag) { return (flags & flag) != 0; };
 
-  std::uint32_t mask = target.mask;
+  const ItemPrinter &printer = *language.writer.printer;
+  std::uint32_t mask = printer.mask;
   if (isAsked(ZEL_PRINT_EXPLODE))
-    mask |= target.explodeMask;
+    mask |= printer.explodeMask;
   if (isAsked(ZEL_PRINT_NOREPEAT))
-    mask |= target.noRepeatMask;
+    mask |= printer.noRepeatMask;
   Explosion explosion;
-  if (mask != 0)
+  if (mask != 0 && isExpanded(path, mask))
     setupExplode(explosion, path, mask);
 
   char *result = nullptr;
   if (explosion.isWhole) {
-    PrintRun run(target, path, handle, mask);
+    PrintRun run(language, path, handle, mask, isTransient);
     if (isAsked(ZEL_PRINT_TOP))
       run.set(stateTopOfHierarchy);
     if (isAsked(ZEL_PRINT_GROUP))
       openGroup(run);
     printItems(run, explosion.first);
-    target.printer.finish(run);
+    printer.finish(run);
+    // A handle of FlatTessel, which has no divider, ends a text of levels at the first.
     run.text[run.size] = '\0';
     if (run.isOutOfMemory)
       errno = ENOMEM;

@@ -1,5 +1,5 @@
 // Paths in ORKA, which can write every form. An index bracket stays open from item to item until something else comes.
-#include "path/print.h"
+#include "path/zelPathPrint.h"
 
 using namespace zeli;
 
@@ -117,19 +117,12 @@ void printAlternative(PrintRun &run) {
   run.clear(stateAfterIdent);
 }
 
-constexpr ItemPrinter ORKAPrint = {printItem, printValue, printAlternative, closeBracket};
-
-constexpr Target orka = {.printer = ORKAPrint,
-                         .identToName = zelIdentToORKA,
-                         .explodeMask = EXPLODE_ALL,
-                         .noRepeatMask = EXPLODE_GROUP_REPEAT | EXPLODE_INDEX_REPEAT};
-
 } // namespace
 
-char *zelPathToORKAEx(zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc, void *context) noexcept {
-  return printPath(orka, path, handle, flags, alloc, context);
-}
-
-char *zelPathToORKA(zelPath path, zelHandle handle, std::int32_t flags) noexcept {
-  return zelPathToORKAEx(path, handle, flags, nullptr, nullptr);
-}
+constexpr ItemPrinter zeli::orkaPrinter = {.item = printItem,
+                                           .value = printValue,
+                                           .alternative = printAlternative,
+                                           .finish = closeBracket,
+                                           .mask = 0,
+                                           .explodeMask = explodeAll,
+                                           .noRepeatMask = explodeGroupRepeat | explodeIndexRepeat};

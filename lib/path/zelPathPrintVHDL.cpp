@@ -1,5 +1,5 @@
 // Paths in VHDL: levels introduced by ':', ranges with their direction, library references.
-#include "path/print.h"
+#include "path/zelPathPrint.h"
 
 using namespace zeli;
 
@@ -65,19 +65,12 @@ void printAlternative(PrintRun &run) {
   run.clear(stateAfterIdent);
 }
 
-constexpr ItemPrinter VhdlPrint = {printItem, printIndex, printAlternative, [](PrintRun &) {}};
-
-constexpr Target vhdl = {.printer = VhdlPrint,
-                         .identToName = zelIdentToVHDL,
-                         .mask = EXPLODE_ALL & ~EXPLODE_RANGE,
-                         .explodeMask = EXPLODE_RANGE};
-
 } // namespace
 
-char *zelPathToVHDLEx(zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc, void *context) noexcept {
-  return printPath(vhdl, path, handle, flags, alloc, context);
-}
-
-char *zelPathToVHDL(zelPath path, zelHandle handle, std::int32_t flags) noexcept {
-  return zelPathToVHDLEx(path, handle, flags, nullptr, nullptr);
-}
+constexpr ItemPrinter zeli::vhdlPrinter = {.item = printItem,
+                                           .value = printIndex,
+                                           .alternative = printAlternative,
+                                           .finish = [](PrintRun &) {},
+                                           .mask = explodeAll & ~explodeRange,
+                                           .explodeMask = explodeRange,
+                                           .noRepeatMask = 0};

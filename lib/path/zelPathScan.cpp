@@ -1,7 +1,7 @@
-#include "path/scan.h"
+#include "path/zelPathScan.h"
 
 #include "core/byteSet.h"
-#include "core/handle.h"
+#include "path/languages.h"
 
 using namespace zeli;
 
@@ -35,30 +35,36 @@ const char *skipExtended(const char *text) {
 
 // A name in which a backslash takes the next character, whatever it is but the end or a byte of 128 or above.
 const char *skipQuoting(const char *text, const ByteSet &plain) {
-  constexpr ByteSet sevenBit = range(1, 127);
   for (;;) {
-    text = skip(text, plain - chars("\\"));
-    if (*text != '\\' || !plain.has(*text))
+    while (*text != '\\' && plain.has(*text))
+      ++text;
+    if (*text != '\\' || !plain.has('\\'))
       return text;
     ++text;
-    if (sevenBit.has(*text))
+    if (ascii.has(*text) && *text != '\0')
       ++text;
   }
 }
 
-// Likewise, up to a separator of the handle or the stop of the format.
-const char *skipQuoting(const char *text, zelHandle handle, char stop) {
-  ByteSet stops;
-  stops.add(stop);
-  stops.add(handle->separators.divider);
-  stops.add(handle->separators.busOpen);
-  stops.add(handle->separators.busClose);
-  return skipQuoting(text, graphic - stops);
+// It ends at the stops of the language and at the separators in force.
+const char *skipQuoting(const char *text, const PathLanguage &language, zelHandle handle) {
+  const zelHandle separating = separatingHandle(language, handle);
+  if (separating == nullptr)
+    return skipQuoting(text, language.names.pathNameBytes);
+  if (separating->language == &language)
+    return skipQuoting(text, *separating->pathNameBytes);
+  return skipQuoting(text, pathNameBytes(language.names.stops, separating->separators)); // the handle of another space
+}
+
+// Whether the character at text is escaped by the backslash in front of it, which no other backslash escapes.
+bool isEscaped(const char *start, const char *text) {
+  const char *first = text;
+  while (first != start && first[-1] == '\\')
+    --first;
+  return (text - first) % 2 != 0;
 }
 
 } // namespace
-
-const char *zeli::skipDigits(const char *text) { return skip(text, digit); }
 
 const char *zeliScanVlog(const char *text, zelHandle) {
   constexpr ByteSet plain = letter | digit | chars("_$");
@@ -82,22 +88,18 @@ const char *zeliScanORKA(const char *text, zelHandle) {
   for (;;) {
     text = skip(text, plain);
     // A number in parentheses belongs to the name.
-    const char *behind = *text == '(' ? skipDigits(text + 1) : text;
+    const char *behind = *text == '(' ? skip(text + 1, digit) : text;
     if (behind <= text + 1 || *behind != ')')
       return text;
     text = behind + 1;
   }
 }
 
-const char *zeliScanTessel(const char *text, zelHandle) { return skipQuoting(text, graphic - chars("[]|")); }
-
-const char *zeliScanFlatTessel(const char *text, zelHandle) { return skipQuoting(text, graphic - chars("[]")); }
-
-const char *zeliScanSpice(const char *text, zelHandle) { return skipQuoting(text, graphic - chars(".")); }
-
 const char *zeliScanKirra(const char *text, zelHandle) {
-  constexpr ByteSet plain = graphic - chars(".[]{},\\");
+  constexpr ByteSet brackets = chars("[]{},");
+  constexpr ByteSet plain = graphic - brackets - chars(".\\");
   constexpr ByteSet behindPair = range(1, 127) - chars(".");
+  const char *const start = text;
   for (;;) {
     text = skip(text, plain);
     if (*text != '\\')
@@ -106,20 +108,25 @@ const char *zeliScanKirra(const char *text, zelHandle) {
     if (!graphic.has(*text))
       return text;
     ++text;
-    // One more character goes with the pair, even one that would end the name or begin another pair.
+    // One more character goes with the pair, even one that would end the name or begin another pair. In the latter case
+    // a bracket behind it is escaped, and belongs to the name as well.
     if (behindPair.has(*text))
+      ++text;
+    if (brackets.has(*text) && isEscaped(start, text))
       ++text;
   }
 }
 
-const char *zeliScanLef(const char *text, zelHandle handle) { return skipQuoting(text, handle, ';'); }
+// The scanners of the languages in which a backslash takes the next character: zeliScan<X>.
+#define ZELI_QUOTING_SCANNER(scanner, language)                                                                        \
+  const char *scanner(const char *text, zelHandle handle) { return skipQuoting(text, language, handle); }
 
-const char *zeliScanDef(const char *text, zelHandle handle) { return skipQuoting(text, handle, ';'); }
-
-const char *zeliScanSdf(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
-
-const char *zeliScanSpf(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
-
-const char *zeliScanSpef(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
-
-const char *zeliScanGcf(const char *text, zelHandle handle) { return skipQuoting(text, handle, ':'); }
+ZELI_QUOTING_SCANNER(zeliScanTessel, languages::tessel)
+ZELI_QUOTING_SCANNER(zeliScanFlatTessel, languages::flatTessel)
+ZELI_QUOTING_SCANNER(zeliScanSpice, languages::spice)
+ZELI_QUOTING_SCANNER(zeliScanLef, languages::lef)
+ZELI_QUOTING_SCANNER(zeliScanDef, languages::def)
+ZELI_QUOTING_SCANNER(zeliScanSdf, languages::sdf)
+ZELI_QUOTING_SCANNER(zeliScanSpf, languages::spf)
+ZELI_QUOTING_SCANNER(zeliScanSpef, languages::spef)
+ZELI_QUOTING_SCANNER(zeliScanGcf, languages::gcf)

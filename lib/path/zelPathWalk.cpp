@@ -1,6 +1,6 @@
 // Walking a path, reading its items, and cutting it.
-#include "path/chunk.h"
-#include "path/language.h"
+#include "path/zelPath.h"
+#include "path/zelPathIdent.h"
 
 #include <cstdlib>
 
@@ -15,15 +15,14 @@ constexpr std::uint32_t positionMask = 0xFF;
 // meets its last number once as ZEL_ITEM_NONE.
 std::uint8_t walkSize(std::uint8_t kind) { return kind == kindStepRange ? std::uint8_t{3} : itemSize(kind); }
 
-// The chunk that the walk stands on: the first whose cursor does not say passed.
+// The chunk that the walk stands on: the first whose cursor does not say passed. What moves the walk remembers it.
 zelPath walkedChunk(zelPath path) {
-  if (path->walked == nullptr) {
-    zelPath chunk = path;
-    while (chunk->cursor == cursorPassed && chunk->next != nullptr)
-      chunk = chunk->next;
-    path->walked = chunk;
-  }
-  return path->walked;
+  if (path->walked != nullptr)
+    return path->walked;
+  zelPath chunk = path;
+  while (chunk->cursor == cursorPassed && chunk->next != nullptr)
+    chunk = chunk->next;
+  return chunk;
 }
 
 struct WalkedItem {
@@ -89,7 +88,7 @@ void releaseItems(const zelPathRecord *chunk, std::size_t position, const Releas
     const Slot *slots = chunk->slots;
     if (kind == kindSharedMark) {
       isShared = true;
-    } else if (isIn(kind, kindOwnedIdent, chunkSlots)) {
+    } else if (hasSlot(kind, kindOwnedIdent)) {
       release(slots[slotOf(kind)].string);
     } else if (isLib(kind)) {
       const std::size_t names = kind >= kindLibView ? 3 : 2;
@@ -188,8 +187,8 @@ const char *zelPathGetIdent(zelPath path) noexcept {
   const WalkedItem item = walkedItem(path);
   if (isConverted(item.kind))
     return item.slot().string;
-  const Language *language = isText(item.kind) ? languageOf(path) : nullptr;
-  if (language == nullptr || !language->convertsOnRequest)
+  const PathLanguage *language = isText(item.kind) ? languageOf(path) : nullptr;
+  if (language == nullptr || !language->names.convertsOnRequest)
     return nullptr;
   char *ident = convertText(*language, path, item.slot().string);
   if (ident == nullptr) {
@@ -203,13 +202,13 @@ const char *zelPathGetIdent(zelPath path) noexcept {
 
 const char *zelPathGetString(zelPath path, const char **end) noexcept {
   const WalkedItem item = walkedItem(path);
-  const Language *language = isText(item.kind) ? languageOf(path) : nullptr;
-  if (language == nullptr || !language->showsText) {
+  const PathLanguage *language = isText(item.kind) ? languageOf(path) : nullptr;
+  if (language == nullptr || !language->names.showsText) {
     store(end, static_cast<const char *>(nullptr));
     return nullptr;
   }
   const char *start = item.slot().string;
-  store(end, language->scan(start, path->handle));
+  store(end, language->names.scan(start, path->handle));
   return start;
 }
 
@@ -256,7 +255,7 @@ std::uint32_t zelPathGetLocation(zelPath path) noexcept {
 std::uint32_t zelPathSetLocation(zelPath path, std::uint32_t location) noexcept {
   if (path == nullptr)
     return 0;
-  path->walked = nullptr;
+  path->walked = path;
   if (location == 0) {
     path->cursor = cursorReset;
     return 0;
@@ -270,6 +269,7 @@ std::uint32_t zelPathSetLocation(zelPath path, std::uint32_t location) noexcept 
     chunk->cursor = cursorPassed;
     chunk = chunk->next;
   }
+  path->walked = chunk;
   const std::uint32_t position = location & positionMask;
   if (position > chunk->used) {
     chunk->cursor = chunk->used;

@@ -1,21 +1,18 @@
 // Ascii: every 7-bit character.
-#include "core/zelpvt.h"
 #include "spaces/classEscape.h"
+#include "spaces/exports.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
 namespace {
 
-constexpr ClassEscapeSpace space = {{'#', range(0x01, 0x7f)}};
+constexpr ClassEscapeRules rules = classEscapeRules(range(0x01, 0x7f));
 
 } // namespace
 
-int zelIsLegalAscii(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::asciiNames = operationsOf<rules>;
 
-char *zelIdentToAscii(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelAsciiToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
+ZEL_EXPORT_LEGAL(zelIsLegalAscii, rules)
+ZEL_EXPORT_WRITER(zelIdentToAscii, rules)
+ZEL_EXPORT_READER(zelAsciiToIdent, rules)

@@ -1,26 +1,35 @@
 #include "spaces/backslash.h"
 
-#include "core/zelpvt.h"
-
 namespace zeli {
 
-bool BackslashSpace::holdsOnly(const ByteSet &set, Bytes name, std::size_t start, std::size_t end) const {
-  return isMadeOf(set, name, start, end, [this](Bytes s, std::size_t i) { return quotes(s, i); });
+bool BackslashRules::holdsOnly(const ByteSet &set, Bytes name, std::size_t start, std::size_t end) const {
+  for (std::size_t i = start; i < end; ++i) {
+    if (quotes(name, i))
+      ++i;
+    else if (!set.has(name[i]))
+      return false;
+  }
+  return true;
 }
 
-bool BackslashSpace::isLegal(Bytes name) const { return isNameLength(name) && holdsOnly(plain, name, 0, name.size()); }
+bool BackslashRules::isLegal(const Name &name) const {
+  return isNameLength(name) && (isWord(name) || holdsOnly(plain, name, 0, name.size()));
+}
 
-Bytes BackslashSpace::write(const Ident &ident, Text &work) const {
-  encode(work, ident.body, escape, foldsCase(ident), plain | escapable, {quoted});
+Bytes BackslashRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+  const bool folds = foldsCase(ident, setting);
+  if (takesWords)
+    return spell(work, ident.body, escape, spelling, folds);
+  encode(work, ident.body, escape, spelling, folds);
   return work.view();
 }
 
-Ident BackslashSpace::read(Bytes name, Text &work) const {
+Ident BackslashRules::read(const Name &name, const Setting &, Text &work) const {
   return isLegal(name) ? readLegal(name, work) : refuseIdent();
 }
 
-Ident BackslashSpace::readLegal(Bytes name, Text &work) const {
-  return decodeIdent(work, name, escape, [this](Bytes s, std::size_t i) { return quotes(s, i); });
+Ident BackslashRules::readLegal(const Name &name, Text &work) const {
+  return decodeIdent(work, name, escape, traitBackslash, [this](Bytes s, std::size_t i) { return quotes(s, i); });
 }
 
 } // namespace zeli

@@ -1,18 +1,15 @@
 #include "spaces/classEscape.h"
 
-#include "core/zelpvt.h"
-
 namespace zeli {
 
-bool ClassEscapeSpace::isLegal(Bytes name) const { return isNameLength(name) && allOf(name, escape.literal); }
+bool ClassEscapeRules::isLegal(const Name &name) const { return isNameLength(name) && isMadeOf(name, escape.literal); }
 
-Bytes ClassEscapeSpace::write(const Ident &ident, Text &work) const {
-  encode(work, ident.body, escape, foldsCase(ident));
-  return work.view();
+Bytes ClassEscapeRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+  return spell(work, ident.body, escape, spelling, foldsCase(ident, setting));
 }
 
-Ident ClassEscapeSpace::read(Bytes name, Text &work) const {
-  return isLegal(name) ? decodeIdent(work, name, escape, quotesNothing) : refuseIdent();
+Ident ClassEscapeRules::read(const Name &name, const Setting &, Text &work) const {
+  return isLegal(name) ? decodeIdent(work, name, escape, 0, quotesNothing) : refuseIdent();
 }
 
 } // namespace zeli

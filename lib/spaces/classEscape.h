@@ -3,16 +3,25 @@
 #define ZEL_SPACES_CLASSESCAPE_H
 
 #include "core/hexEscape.h"
+#include "spaces/space.h"
 
 namespace zeli {
 
-struct ClassEscapeSpace {
+struct ClassEscapeRules {
   HexEscape escape; // its literal bytes are the class
+  Spelling spelling;
 
-  bool isLegal(Bytes name) const;
-  Bytes write(const Ident &ident, Text &work) const;
-  Ident read(Bytes name, Text &work) const;
+  static constexpr PlainWords plainWords() { return anyWord; }
+
+  bool isLegal(const Name &name) const;
+  Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
+  Ident read(const Name &name, const Setting &setting, Text &work) const;
 };
+
+constexpr ClassEscapeRules classEscapeRules(const ByteSet &literal) {
+  const HexEscape escape = {'#', literal};
+  return {escape, Spelling(escape, literal)};
+}
 
 } // namespace zeli
 

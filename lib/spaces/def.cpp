@@ -1,8 +1,7 @@
 // DEF, Design Exchange Format 5.x.
-#include "core/zelpvt.h"
-#include "spaces/currentHandle.h"
 #include "spaces/keywords.h"
 #include "spaces/layoutFamily.h"
+#include "spaces/redefinable.h"
 
 using namespace zeli;
 
@@ -48,39 +47,26 @@ constexpr Keywords keywords = {{'a', defKeywordsA}, {'b', defKeywordsB}, {'c', d
 static_assert(keywords.words() == 151);
 // clang-format on
 
-constinit thread_local zelHandle namespaceHandle = nullptr;
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-BackslashSpace space() {
-  const Separators &separators = separatorsInForce(namespaceHandle, zelDefHandle);
-  return layoutFamily(layoutChar, separatorSet({separators.pinDelimiter, separators.busOpen, separators.busClose}));
+bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
+
+constexpr BackslashRules rulesUnder(const Separators &separators) {
+  return layoutFamily(layoutChar, chars({separators.pinDelimiter, separators.busOpen, separators.busClose}));
 }
+
+constexpr RedefinableRules<defNames, rulesUnder, defSeparators> rules;
 
 } // namespace
 
-int zelIsLegalDef(const char *name) noexcept { return space().isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::defNames = redefinableOperationsOf<rules>;
 
-char *zelIdentToDefWithHandle(const char *ident, zelAllocFunc alloc, void *context, zelHandle handle) noexcept {
-  const HandleScope scope(namespaceHandle, handle);
-  return writeName(space(), ident, alloc, context);
-}
-
-char *zelIdentToDef(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space(), ident, alloc, context);
-}
-
-char *zelDefToIdentWithHandle(const char *name, zelAllocFunc alloc, void *context, zelHandle handle) noexcept {
-  const HandleScope scope(namespaceHandle, handle);
-  return readName(space(), name, alloc, context);
-}
-
-char *zelDefToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space(), name, alloc, context);
-}
-
-int zelIsDefChar(int c) noexcept { return isIn(layoutChar, c); }
-
-int zelIsDefEscapableChar(int c) noexcept { return isIn(space().escapable, c); }
-
-int zelIsDefKeyword(const char *word) noexcept { return keywords.hasFolded(wholeBytes(word)) ? 1 : 0; }
-
-int zelVerifyDefKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalDef, rules)
+ZEL_EXPORT_WRITER(zelIdentToDef, rules)
+ZEL_EXPORT_READER(zelDefToIdent, rules)
+ZEL_EXPORT_WRITER_WITH_HANDLE(zelIdentToDefWithHandle, rules)
+ZEL_EXPORT_READER_WITH_HANDLE(zelDefToIdentWithHandle, rules)
+ZEL_EXPORT_CHARACTER(zelIsDefChar, layoutChar)
+ZEL_EXPORT_CHARACTER_UNDER_HANDLE(zelIsDefEscapableChar, rules.isEscapable)
+ZEL_EXPORT_WORD(zelIsDefKeyword, isKeyword)
+ZEL_EXPORT_VERIFY(zelVerifyDefKeywords, keywords)

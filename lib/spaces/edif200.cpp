@@ -1,23 +1,19 @@
 // EDIF 2 0 0: graphic characters.
-#include "core/zelpvt.h"
 #include "spaces/classEscape.h"
+#include "spaces/exports.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
 namespace {
 
-constexpr ClassEscapeSpace space = {{'#', graphic}};
+constexpr ClassEscapeRules rules = classEscapeRules(graphic);
 
 } // namespace
 
-int zelIsLegalEdif200(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::edif200Names = operationsOf<rules>;
 
-char *zelIdentToEdif200(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelEdif200ToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsEdif200Char(int c) noexcept { return isIn(space.escape.literal, c); }
+ZEL_EXPORT_LEGAL(zelIsLegalEdif200, rules)
+ZEL_EXPORT_WRITER(zelIdentToEdif200, rules)
+ZEL_EXPORT_READER(zelEdif200ToIdent, rules)
+ZEL_EXPORT_CHARACTER(zelIsEdif200Char, rules.escape.literal)

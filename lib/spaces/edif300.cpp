@@ -1,23 +1,19 @@
 // EDIF 3 0 0: graphic characters.
-#include "core/zelpvt.h"
 #include "spaces/classEscape.h"
+#include "spaces/exports.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
 namespace {
 
-constexpr ClassEscapeSpace space = {{'#', graphic}};
+constexpr ClassEscapeRules rules = classEscapeRules(graphic);
 
 } // namespace
 
-int zelIsLegalEdif300(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::edif300Names = operationsOf<rules>;
 
-char *zelIdentToEdif300(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelEdif300ToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsEdif300Char(int c) noexcept { return isIn(space.escape.literal, c); }
+ZEL_EXPORT_LEGAL(zelIsLegalEdif300, rules)
+ZEL_EXPORT_WRITER(zelIdentToEdif300, rules)
+ZEL_EXPORT_READER(zelEdif300ToIdent, rules)
+ZEL_EXPORT_CHARACTER(zelIsEdif300Char, rules.escape.literal)

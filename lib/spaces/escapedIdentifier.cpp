@@ -1,7 +1,5 @@
 #include "spaces/escapedIdentifier.h"
 
-#include "core/zelpvt.h"
-
 namespace zeli {
 
 namespace {
@@ -12,11 +10,11 @@ Bytes content(Bytes escapedName) { return {escapedName.data() + 1, escapedName.s
 
 } // namespace
 
-bool EscapedIdentifierSpace::isNormal(Bytes name) const {
-  return !name.empty() && first.has(name[0]) && allOf(from(name, 1), normal) && !keywords.has(name);
+bool EscapedIdentifierRules::isNormal(const Name &name) const {
+  return !name.empty() && first.has(name[0]) && isMadeOf(name, normal) && !isKeyword(name);
 }
 
-bool EscapedIdentifierSpace::isLegal(Bytes name) const {
+bool EscapedIdentifierRules::isLegal(const Name &name) const {
   if (!isNameLength(name))
     return false;
   if (name[0] == '\\')
@@ -24,24 +22,24 @@ bool EscapedIdentifierSpace::isLegal(Bytes name) const {
   return isNormal(name);
 }
 
-Bytes EscapedIdentifierSpace::write(const Ident &ident, Text &work) const {
-  const bool folds = foldsCase(ident);
+Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+  const bool folds = foldsCase(ident, setting) && ident.body.has(traitUpper);
   if (isNormal(ident.body)) {
     if (!folds)
       return ident.body;
-    encode(work, ident.body, noEscape, true);
-    if (!keywords.has(work.view()))
+    copyLowered(work, ident.body);
+    if (!isKeyword(Name(work.view())))
       return work.view();
     work.size = 0;
   }
 
   work.put('\\');
-  encode(work, ident.body, escape, folds);
+  encode(work, ident.body, escape, spelling, folds);
   work.put(' ');
   return work.view();
 }
 
-Ident EscapedIdentifierSpace::read(Bytes name, Text &work) const {
+Ident EscapedIdentifierRules::read(const Name &name, const Setting &, Text &work) const {
   if (!isNameLength(name))
     return refuseIdent();
   // A normal name is always case-sensitive, an escaped one only when it holds capitals.
@@ -49,7 +47,7 @@ Ident EscapedIdentifierSpace::read(Bytes name, Text &work) const {
     return {'S', name};
   if (!isEscaped(name))
     return refuseIdent();
-  return decodeIdent(work, content(name), escape, quotesNothing);
+  return decodeIdent(work, {content(name), name.look.traits}, escape, 0, quotesNothing);
 }
 
 } // namespace zeli

@@ -4,21 +4,32 @@
 #define ZEL_SPACES_ESCAPEDIDENTIFIER_H
 
 #include "core/hexEscape.h"
-#include "spaces/keywords.h"
+#include "spaces/space.h"
 
 namespace zeli {
 
-struct EscapedIdentifierSpace {
+struct EscapedIdentifierRules {
   ByteSet first;
   ByteSet normal;
   HexEscape escape; // its literal bytes are the ones that may stand in an escaped identifier
-  const Keywords &keywords;
+  Spelling spelling;
+  bool (*isKeyword)(const Name &word);
 
-  bool isNormal(Bytes name) const;
-  bool isLegal(Bytes name) const;
-  Bytes write(const Ident &ident, Text &work) const;
-  Ident read(Bytes name, Text &work) const;
+  constexpr PlainWords plainWords() const {
+    return {traitDigitFirst, traitDigitFirst, traitDigitFirst | traitUpper, 'S', isKeyword};
+  }
+
+  bool isNormal(const Name &name) const;
+  bool isLegal(const Name &name) const;
+  Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
+  Ident read(const Name &name, const Setting &setting, Text &work) const;
 };
+
+constexpr EscapedIdentifierRules escapedIdentifierRules(const ByteSet &first, const ByteSet &normal,
+                                                        bool (*isKeyword)(const Name &word)) {
+  constexpr HexEscape escape = {'#', graphic};
+  return {first, normal, escape, Spelling(escape, graphic), isKeyword};
+}
 
 } // namespace zeli
 

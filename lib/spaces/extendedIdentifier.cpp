@@ -1,7 +1,5 @@
 #include "spaces/extendedIdentifier.h"
 
-#include "core/zelpvt.h"
-
 namespace zeli {
 
 namespace {
@@ -23,53 +21,50 @@ bool isLegalExtended(Bytes name, const ByteSet &escapable) {
   return isClosing;
 }
 
-Bytes writeExtended(Text &work, Bytes body, const HexEscape &escape, bool folds) {
+Bytes writeExtended(Text &work, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
   work.put('\\');
-  encode(work, skipForce(body), escape, folds, doubledBackslash);
+  encode(work, skipForce(body), escape, spelling, folds);
   work.put('\\');
   return work.view();
 }
 
-bool ExtendedIdentifierSpace::isNormal(Bytes name) const {
-  if (name.empty() || !first.has(name[0]) || name.back() == '_')
-    return false;
-  for (std::size_t i = 1; i < name.size(); ++i)
-    if (!normal.has(name[i]) || (name[i] == '_' && name[i - 1] == '_'))
-      return false;
-  return !isKeyword(name);
+bool ExtendedIdentifierRules::isNormal(const Name &name) const {
+  return !name.empty() && first.has(name[0]) && name.back() != '_' && isMadeOf(name, normal) &&
+         !name.has(traitTwoUnderscores) && !isKeyword(name);
 }
 
-bool ExtendedIdentifierSpace::isLegal(Bytes name) const {
+bool ExtendedIdentifierRules::isLegal(const Name &name) const {
   if (!isNameLength(name))
     return false;
   return name[0] == '\\' ? isLegalExtended(name, escape.literal) : isNormal(name);
 }
 
-Bytes ExtendedIdentifierSpace::write(const Ident &ident, Text &work) const {
-  const std::int32_t state = zelGetMapState();
+Bytes ExtendedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+  const std::int32_t state = mapStateOf(setting);
   const bool isSensitive = ident.isCaseSensitive();
-  const Bytes body = ident.body;
+  const Name &body = ident.body;
 
   // Capitals matter in a case-sensitive name; under VHDL and TANDEM compatibility in a case-insensitive one.
   const bool caseMatters = (state != ZEL_MAP_MATCH || ident.marker == 'F') && isSensitive != isCompatibility(state);
   const bool isBasic = isNormal(body);
-  const bool keepsCapitals = !caseMatters || !hasUpper(body);
+  const bool keepsCapitals = !caseMatters || !body.has(traitUpper);
   if (isBasic && keepsCapitals && (!isSensitive || !isForce(body)))
     return body;
   if (isBasic && !isSensitive) {
-    encode(work, body, escape, true, doubledBackslash);
+    copyLowered(work, body);
     return work.view();
   }
-  return writeExtended(work, body, escape, !isSensitive);
+  return writeExtended(work, body, escape, spelling, !isSensitive);
 }
 
-Ident ExtendedIdentifierSpace::read(Bytes name, Text &work) const {
+Ident ExtendedIdentifierRules::read(const Name &name, const Setting &setting, Text &work) const {
   if (!isNameLength(name))
     return refuseIdent();
-  const std::int32_t state = zelGetMapState();
+  const std::int32_t state = mapStateOf(setting);
   if (isNormal(name))
     return {state == ZEL_MAP_VHDL ? 'S' : 'I', name};
-  return readExtended(name, work, escape, isCompatibility(state), [this](Bytes plain) { return isNormal(plain); });
+  return readExtended(name, work, escape, isCompatibility(state),
+                      [this](const Name &plain) { return isNormal(plain); });
 }
 
 } // namespace zeli

@@ -4,6 +4,7 @@
 #define ZEL_SPACES_EXTENDEDIDENTIFIER_H
 
 #include "core/hexEscape.h"
+#include "spaces/space.h"
 
 namespace zeli {
 
@@ -17,37 +18,44 @@ inline Bytes extendedContent(Bytes name) {
 }
 
 // A backslash inside is doubled: how that is written, and for decode the first of the two.
-constexpr Quoting doubledBackslash = {chars("\\"), '\\'};
+constexpr Spelling spellingExtended(const HexEscape &escape) { return Spelling(escape, escape.literal, chars("\\")); }
 inline bool quotesBackslash(Bytes s, std::size_t i) { return s[i] == '\\' && i + 1 < s.size() && s[i + 1] == '\\'; }
 
 // body, without a force prefix, as an extended identifier.
-Bytes writeExtended(Text &work, Bytes body, const HexEscape &escape, bool folds);
+Bytes writeExtended(Text &work, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds);
 
 // Reads an extended identifier. A content that would also be a name as it stands keeps the force prefix, by which it is
 // written back extended; one with capitals only when keepsCapitals.
 template <typename IsNormal>
-Ident readExtended(Bytes name, Text &work, const HexEscape &escape, bool keepsCapitals, IsNormal isNormal) {
+Ident readExtended(const Name &name, Text &work, const HexEscape &escape, bool keepsCapitals, IsNormal isNormal) {
   if (!isExtended(name))
     return refuseIdent();
   work.put(force);
   const bool copiedUpper = decode(work, extendedContent(name), escape, quotesBackslash);
   const Bytes forced = work.view();
-  const Bytes plain = skipForce(forced);
+  const Name plain(skipForce(forced));
   if ((!copiedUpper || keepsCapitals) && isNormal(plain))
-    return {'S', forced};
-  return identByCase(copiedUpper, plain);
+    return {'S', Name(forced)};
+  return {copiedUpper ? 'S' : 'I', plain};
 }
 
-struct ExtendedIdentifierSpace {
+struct ExtendedIdentifierRules {
   ByteSet first;
   ByteSet normal;
   HexEscape escape; // its literal bytes are the ones that may stand in an extended identifier
-  bool (*isKeyword)(Bytes word);
+  Spelling spelling;
+  bool (*isKeyword)(const Name &word);
+  bool (*isSettled)() = nullptr; // see PlainWords
 
-  bool isNormal(Bytes name) const;
-  bool isLegal(Bytes name) const;
-  Bytes write(const Ident &ident, Text &work) const;
-  Ident read(Bytes name, Text &work) const;
+  constexpr PlainWords plainWords() const {
+    constexpr std::uint8_t never = traitDigitFirst | traitUnderscoreFirst | traitUnderscoreLast | traitTwoUnderscores;
+    return {never, never | traitUpper, never, 'I', isKeyword, isSettled};
+  }
+
+  bool isNormal(const Name &name) const;
+  bool isLegal(const Name &name) const;
+  Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
+  Ident read(const Name &name, const Setting &setting, Text &work) const;
 };
 
 } // namespace zeli

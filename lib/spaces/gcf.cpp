@@ -1,38 +1,21 @@
 // GCF, General Constraint Format.
-#include "core/zelpvt.h"
-#include "spaces/currentHandle.h"
+#include "spaces/redefinable.h"
 #include "spaces/wordFamily.h"
 
 using namespace zeli;
 
 namespace {
 
-constinit thread_local zelHandle namespaceHandle = nullptr;
-
-BackslashSpace space() { return wordFamily(separatorsInForce(namespaceHandle, zelGcfHandle)); }
+constexpr RedefinableRules<gcfNames, wordFamily, gcfSeparators> rules;
 
 } // namespace
 
-int zelIsLegalGcf(const char *name) noexcept { return space().isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::gcfNames = redefinableOperationsOf<rules>;
 
-char *zelIdentToGcfWithHandle(const char *ident, zelAllocFunc alloc, void *context, zelHandle handle) noexcept {
-  const HandleScope scope(namespaceHandle, handle);
-  return writeName(space(), ident, alloc, context);
-}
-
-char *zelIdentToGcf(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space(), ident, alloc, context);
-}
-
-char *zelGcfToIdentWithHandle(const char *name, zelAllocFunc alloc, void *context, zelHandle handle) noexcept {
-  const HandleScope scope(namespaceHandle, handle);
-  return readName(space(), name, alloc, context);
-}
-
-char *zelGcfToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space(), name, alloc, context);
-}
-
-int zelIsGcfChar(int c) noexcept { return isIn(wordChar, c); }
-
-int zelIsGcfEscapableChar(int c) noexcept { return isIn(space().escapable, c); }
+ZEL_EXPORT_LEGAL(zelIsLegalGcf, rules)
+ZEL_EXPORT_WRITER(zelIdentToGcf, rules)
+ZEL_EXPORT_READER(zelGcfToIdent, rules)
+ZEL_EXPORT_WRITER_WITH_HANDLE(zelIdentToGcfWithHandle, rules)
+ZEL_EXPORT_READER_WITH_HANDLE(zelGcfToIdentWithHandle, rules)
+ZEL_EXPORT_CHARACTER(zelIsGcfChar, wordChar)
+ZEL_EXPORT_CHARACTER_UNDER_HANDLE(zelIsGcfEscapableChar, rules.isEscapable)

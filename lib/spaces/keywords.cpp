@@ -1,22 +1,9 @@
-// Keyword lookup and self-check.
+// The self-check of keywords.
 #include "spaces/keywords.h"
-
-#include "core/zelpvt.h"
 
 #include <cstdio>
 
-namespace zeli {
-
-bool Keywords::has(Bytes word) const {
-  if (word.empty() || !lower.has(word[0]))
-    return false;
-  const KeywordArray &array = arrays[word[0] - 'a'];
-  return tableHas(array.words, array.count, word);
-}
-
-bool Keywords::hasFolded(Bytes word) const { return has(FoldedWord(word).view); }
-
-bool Keywords::verify() const {
+bool zeli::Keywords::verify() const {
   bool isSound = true;
   for (const KeywordArray &array : arrays) {
     const char *previous = "";
@@ -35,5 +22,3 @@ bool Keywords::verify() const {
   }
   return isSound;
 }
-
-} // namespace zeli

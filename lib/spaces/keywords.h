@@ -1,11 +1,9 @@
-// Reserved words: one array an initial letter, searched in stored order.
+// Reserved words: one array an initial letter, as the language lists them, and an index that finds a word by its first
+// eight bytes.
 #ifndef ZEL_SPACES_KEYWORDS_H
 #define ZEL_SPACES_KEYWORDS_H
 
-#include "core/text.h"
-
-#include <cstdint>
-#include <initializer_list>
+#include "core/zelpvt.h"
 
 namespace zeli {
 
@@ -36,26 +34,82 @@ struct Keywords {
     return sum;
   }
 
-  // As stored: a word that does not begin with a lower-case letter is none.
-  bool has(Bytes word) const;
-  // In any case.
-  bool hasFolded(Bytes word) const;
-
   // Whether every word begins with its letter and stands behind the word before it; faults go to standard error.
   bool verify() const;
 };
 
-// A word in lower case for a keyword test. No keyword is longer than this holds; a longer word gives an empty view.
-struct FoldedWord {
-  char bytes[64];
-  Bytes view;
+// The first eight bytes of a word, the first in the lowest place, with its capitals lowered.
+constexpr std::uint64_t lowered(std::uint64_t head) {
+  constexpr std::uint64_t each = 0x0101010101010101;
+  const std::uint64_t low = head & 0x7F * each;
+  const std::uint64_t isFromA = low + (0x80 - 'A') * each;
+  const std::uint64_t isPastZ = low + (0x7F - 'Z') * each;
+  return head | ((isFromA & ~isPastZ & ~head & 0x80 * each) >> 2);
+}
 
-  explicit FoldedWord(Bytes word) {
-    if (word.size() > sizeof bytes)
-      return;
-    for (std::size_t i = 0; i < word.size(); ++i)
-      bytes[i] = toLower(word[i]);
-    view = {bytes, word.size()};
+// An index of count words at the most, made when the program is compiled: the first eight bytes of a word are hashed to
+// slots of which most are empty.
+template <std::size_t count> class KeywordTable {
+public:
+  constexpr explicit KeywordTable(const Keywords &keywords) {
+    std::uint16_t used = 0;
+    for (const KeywordArray &array : keywords.arrays)
+      for (std::int32_t i = 0; i < array.count; ++i) {
+        const Bytes word = array.words[i];
+        // In an array that is not in order the search misses some words, which are then no keywords.
+        if (word[0] != array.letter || !tableHas(array.words, array.count, word))
+          continue;
+        std::uint64_t head = 0;
+        for (std::size_t at = 0; at < headBytes && at < word.size(); ++at)
+          head |= std::uint64_t{static_cast<unsigned char>(word[at])} << (8 * at);
+        entries[++used] = {head, word.size() > headBytes ? word.data() + headBytes : ""};
+        std::size_t slot = slotOf(head);
+        while (slots[slot] != 0)
+          slot = (slot + 1) % slotCount;
+        slots[slot] = used;
+      }
+  }
+
+  // As stored.
+  bool has(const Name &word) const { return find<false>(word, word.head()); }
+
+  // In any case.
+  bool hasFolded(const Name &word) const { return find<true>(word, lowered(word.head())); }
+
+private:
+  static constexpr std::size_t headBytes = 8;
+  static constexpr int slotBits = [] {
+    int bits = 6;
+    while ((std::size_t{1} << bits) < 8 * count)
+      ++bits;
+    return bits;
+  }();
+  static constexpr std::size_t slotCount = std::size_t{1} << slotBits;
+
+  struct Entry {
+    std::uint64_t head = 0;
+    const char *tail = ""; // behind the head
+  };
+
+  std::uint16_t slots[slotCount] = {}; // 0 when empty, otherwise an entry, counted from 1
+  Entry entries[count + 1];
+
+  static constexpr std::size_t slotOf(std::uint64_t head) {
+    return static_cast<std::size_t>(head * 0x9E3779B97F4A7C15U >> (64 - slotBits));
+  }
+
+  template <bool folds> bool find(Bytes word, std::uint64_t head) const {
+    for (std::size_t slot = slotOf(head); slots[slot] != 0; slot = (slot + 1) % slotCount)
+      if (const Entry &entry = entries[slots[slot]]; entry.head == head && hasTail<folds>(word, entry.tail))
+        return true;
+    return false;
+  }
+
+  template <bool folds> static bool hasTail(Bytes word, const char *tail) {
+    for (std::size_t i = headBytes; i < word.size(); ++i, ++tail)
+      if ((folds ? toLower(word[i]) : word[i]) != *tail)
+        return false;
+    return *tail == '\0';
   }
 };
 

@@ -1,8 +1,9 @@
 // Kirra: netlists of analog simulation. Any graphic or white-space character stands behind a backslash; keywords cannot
 // be escaped and stand behind a prefix instead.
-#include "core/zelpvt.h"
 #include "spaces/backslash.h"
+#include "spaces/exports.h"
 #include "spaces/keywords.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
@@ -33,14 +34,18 @@ static_assert(keywords.words() == 55);
 
 // The words with 'l' stand among those with 'i' on purpose: they are never found, and so plain names of the space.
 
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
+
+bool isKeyword(const Name &word) { return keywordTable.has(word); }
+
 constexpr ByteSet first = letter | chars("_");
-constexpr ByteSet nonFirst = first | digit | chars("!");
+constexpr ByteSet nonFirst = wordChar | chars("!");
 constexpr Bytes keywordPrefix = "KEYWORD_";
 
 // Whether name must not stand without a prefix, or without one more: a keyword behind at most two prefixes.
 bool needsPrefix(Bytes name) {
   for (int prefixes = 0; prefixes <= 2; ++prefixes) {
-    if (keywords.has(name))
+    if (keywordTable.has(Name(name)))
       return true;
     if (!startsWith(name, keywordPrefix))
       return false;
@@ -51,7 +56,7 @@ bool needsPrefix(Bytes name) {
 
 // Digits only, or digits, letters and digits as in 2n3904; a backslash hides the byte behind it from this rule.
 bool isDigitStartName(Bytes name) {
-  if (name.empty() || keywords.has(name))
+  if (name.empty() || isKeyword(Name(name)))
     return false;
   if (allOf(name, digit))
     return true;
@@ -83,65 +88,64 @@ bool isDigitStartName(Bytes name) {
   return phase == rest;
 }
 
-struct KirraSpace : BackslashSpace {
-  bool isLegal(Bytes name) const {
-    if (!isNameLength(name) || keywords.has(name))
+struct KirraRules : BackslashRules {
+  static constexpr PlainWords plainWords() {
+    return {0, traitDigitFirst, traitDigitFirst | traitUpper, '\0', isKeyword};
+  }
+
+  bool isLegal(const Name &name) const {
+    if (!isNameLength(name) || isKeyword(name))
       return false;
     if (digit.has(name[0]))
       return isDigitStartName(name);
-    return (first.has(name[0]) || quotes(name, 0)) && holdsOnly(plain, name, 0, name.size());
+    return (first.has(name[0]) || quotes(name, 0)) && (name.isWord() || holdsOnly(plain, name, 0, name.size()));
   }
 
-  Bytes write(const Ident &ident, Text &work) const {
-    const char initial = ident.body[0];
-    if (digit.has(initial) && isDigitStartName(ident.body)) {
-      encode(work, ident.body, noEscape, foldsCase(ident));
+  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+    const Name &body = ident.body;
+    const char initial = body[0];
+    if (digit.has(initial) && isDigitStartName(body)) {
+      if (!foldsCase(ident, setting))
+        return body;
+      copyLowered(work, body);
       return work.view();
     }
     if (plain.has(initial) && !first.has(initial))
       work.put('\\');
-    const Bytes written = BackslashSpace::write(ident, work);
+    const Bytes written = BackslashRules::write(ident, setting, work);
     if (!needsPrefix(written))
       return written;
-    std::memmove(work.bytes + keywordPrefix.size(), work.bytes, work.size);
+    std::memmove(work.bytes + keywordPrefix.size(), written.data(), written.size());
     std::memcpy(work.bytes, keywordPrefix.data(), keywordPrefix.size());
-    work.size += keywordPrefix.size();
+    work.size = keywordPrefix.size() + written.size();
     return work.view();
   }
 
-  Ident read(Bytes name, Text &work) const {
+  Ident read(const Name &name, const Setting &, Text &work) const {
     if (!isNameLength(name))
       return refuseIdent();
+    Name unprefixed = name;
     if (startsWith(name, keywordPrefix) && needsPrefix(from(name, keywordPrefix.size())))
-      name = from(name, keywordPrefix.size());
+      unprefixed = Name(from(name, keywordPrefix.size()));
     // A backslash that quotes nothing is refused, other than a faulty argument without setting errno.
-    return holdsOnly(anyByte - chars("\\"), name, 0, name.size()) ? readLegal(name, work) : Ident{};
+    if (unprefixed.has(traitBackslash) && !holdsOnly(anyByte - chars("\\"), unprefixed, 0, unprefixed.size()))
+      return {};
+    return readLegal(unprefixed, work);
   }
 };
 
-constexpr KirraSpace space = {
-    {.plain = nonFirst, .escapable = graphic | white, .quoted = anyByte - nonFirst, .escape = {'#', graphic | white}}};
+constexpr KirraRules rules = {{nonFirst, graphic | white, anyByte - nonFirst, {'#', graphic | white}}};
 
 } // namespace
 
-int zelIsLegalKirra(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::kirraNames = operationsOf<rules>;
 
-char *zelIdentToKirra(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelKirraToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsLegalKirraDigitStartName(const char *name) noexcept { return isDigitStartName(wholeBytes(name)) ? 1 : 0; }
-
-int zelIsKirraKeyword(const char *word) noexcept { return keywords.has(wholeBytes(word)) ? 1 : 0; }
-
-int zelIsKirraFirstChar(int c) noexcept { return isIn(first, c); }
-
-int zelIsKirraNonFirstChar(int c) noexcept { return isIn(nonFirst, c); }
-
-int zelIsKirraEscapableChar(int c) noexcept { return isIn(space.escapable, c); }
-
-int zelVerifyKirraKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalKirra, rules)
+ZEL_EXPORT_WRITER(zelIdentToKirra, rules)
+ZEL_EXPORT_READER(zelKirraToIdent, rules)
+ZEL_EXPORT_WORD(zelIsLegalKirraDigitStartName, isDigitStartName)
+ZEL_EXPORT_WORD(zelIsKirraKeyword, isKeyword)
+ZEL_EXPORT_CHARACTER(zelIsKirraFirstChar, first)
+ZEL_EXPORT_CHARACTER(zelIsKirraNonFirstChar, nonFirst)
+ZEL_EXPORT_CHARACTER(zelIsKirraEscapableChar, rules.escapable)
+ZEL_EXPORT_VERIFY(zelVerifyKirraKeywords, keywords)

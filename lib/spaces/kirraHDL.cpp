@@ -1,6 +1,8 @@
 // KirraHDL: the behavioural language beside Kirra netlists.
-#include "core/zelpvt.h"
 #include "spaces/escapedIdentifier.h"
+#include "spaces/exports.h"
+#include "spaces/keywords.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
@@ -48,28 +50,22 @@ static_assert(keywords.words() == 161);
 
 // The words with 'l' stand among those with 'i' on purpose: they are never found, and so plain names of the space.
 
-constexpr EscapedIdentifierSpace space = {letter | chars("_"), letter | digit | chars("_"), {'#', graphic}, keywords};
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
+
+bool isKeyword(const Name &word) { return keywordTable.has(word); }
+
+constexpr EscapedIdentifierRules rules = escapedIdentifierRules(letter | chars("_"), wordChar, isKeyword);
 
 } // namespace
 
-int zelIsLegalKirraHDL(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::kirraHDLNames = operationsOf<rules>;
 
-char *zelIdentToKirraHDL(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelKirraHDLToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsLegalKirraHDLNormal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }
-
-int zelIsKirraHDLKeyword(const char *word) noexcept { return keywords.has(wholeBytes(word)) ? 1 : 0; }
-
-int zelIsKirraHDLFirstChar(int c) noexcept { return isIn(space.first, c); }
-
-int zelIsKirraHDLNormalChar(int c) noexcept { return isIn(space.normal, c); }
-
-int zelIsKirraHDLEscapableChar(int c) noexcept { return isIn(space.escape.literal, c); }
-
-int zelVerifyKirraHDLKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalKirraHDL, rules)
+ZEL_EXPORT_WRITER(zelIdentToKirraHDL, rules)
+ZEL_EXPORT_READER(zelKirraHDLToIdent, rules)
+ZEL_EXPORT_WORD(zelIsLegalKirraHDLNormal, rules.isNormal)
+ZEL_EXPORT_WORD(zelIsKirraHDLKeyword, isKeyword)
+ZEL_EXPORT_CHARACTER(zelIsKirraHDLFirstChar, rules.first)
+ZEL_EXPORT_CHARACTER(zelIsKirraHDLNormalChar, rules.normal)
+ZEL_EXPORT_CHARACTER(zelIsKirraHDLEscapableChar, rules.escape.literal)
+ZEL_EXPORT_VERIFY(zelVerifyKirraHDLKeywords, keywords)

@@ -4,16 +4,15 @@
 #define ZEL_SPACES_LAYOUTFAMILY_H
 
 #include "spaces/backslash.h"
-#include "spaces/currentHandle.h"
 
 namespace zeli {
 
 constexpr ByteSet layoutChar = ascii - white - chars("#;");
 
-constexpr BackslashSpace layoutFamily(const ByteSet &plain, const ByteSet &separators) {
+constexpr BackslashRules layoutFamily(const ByteSet &plain, const ByteSet &separators) {
   const ByteSet escapable = separators | chars("#\\");
   // The mark stands alone, also where it is a separator.
-  return {.plain = plain, .escapable = escapable, .quoted = escapable - chars("%"), .escape = {'%', escapable}};
+  return {plain, escapable, escapable - chars("%"), {'%', escapable}};
 }
 
 } // namespace zeli

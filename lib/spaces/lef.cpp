@@ -1,8 +1,7 @@
 // LEF, Library Exchange Format 5.x.
-#include "core/zelpvt.h"
-#include "spaces/currentHandle.h"
 #include "spaces/keywords.h"
 #include "spaces/layoutFamily.h"
+#include "spaces/redefinable.h"
 
 using namespace zeli;
 
@@ -67,41 +66,28 @@ static_assert(keywords.words() == 264);
 // Four entries are irregular on purpose: the last word of 'c' runs several together, "outputresistance" and
 // "tabledimension" stand twice, and "Y" is never found because words are folded before the search.
 
-constinit thread_local zelHandle namespaceHandle = nullptr;
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
+
+bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
 
 // Other than in DEF, the divider is escaped instead of the pin delimiter, and a separator never stands plain.
-BackslashSpace space() {
-  const Separators &separators = separatorsInForce(namespaceHandle, zelLefHandle);
-  const ByteSet syntax = separatorSet({separators.divider, separators.busOpen, separators.busClose});
+constexpr BackslashRules rulesUnder(const Separators &separators) {
+  const ByteSet syntax = chars({separators.divider, separators.busOpen, separators.busClose});
   return layoutFamily(layoutChar - syntax, syntax);
 }
 
+constexpr RedefinableRules<lefNames, rulesUnder, lefSeparators> rules;
+
 } // namespace
 
-int zelIsLegalLef(const char *name) noexcept { return space().isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::lefNames = redefinableOperationsOf<rules>;
 
-char *zelIdentToLefWithHandle(const char *ident, zelAllocFunc alloc, void *context, zelHandle handle) noexcept {
-  const HandleScope scope(namespaceHandle, handle);
-  return writeName(space(), ident, alloc, context);
-}
-
-char *zelIdentToLef(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space(), ident, alloc, context);
-}
-
-char *zelLefToIdentWithHandle(const char *name, zelAllocFunc alloc, void *context, zelHandle handle) noexcept {
-  const HandleScope scope(namespaceHandle, handle);
-  return readName(space(), name, alloc, context);
-}
-
-char *zelLefToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space(), name, alloc, context);
-}
-
-int zelIsLefChar(int c) noexcept { return isIn(space().plain, c); }
-
-int zelIsLefEscapableChar(int c) noexcept { return isIn(space().escapable, c); }
-
-int zelIsLefKeyword(const char *word) noexcept { return keywords.hasFolded(wholeBytes(word)) ? 1 : 0; }
-
-int zelVerifyLefKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalLef, rules)
+ZEL_EXPORT_WRITER(zelIdentToLef, rules)
+ZEL_EXPORT_READER(zelLefToIdent, rules)
+ZEL_EXPORT_WRITER_WITH_HANDLE(zelIdentToLefWithHandle, rules)
+ZEL_EXPORT_READER_WITH_HANDLE(zelLefToIdentWithHandle, rules)
+ZEL_EXPORT_CHARACTER_UNDER_HANDLE(zelIsLefChar, rules.isPlain)
+ZEL_EXPORT_CHARACTER_UNDER_HANDLE(zelIsLefEscapableChar, rules.isEscapable)
+ZEL_EXPORT_WORD(zelIsLefKeyword, isKeyword)
+ZEL_EXPORT_VERIFY(zelVerifyLefKeywords, keywords)

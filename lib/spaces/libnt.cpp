@@ -1,25 +1,26 @@
 // LibraryNT: libraries on file systems that do not tell case apart and reserve the names of devices. A capital that
 // matters stands behind '%', a reserved name behind "%%".
-#include "core/zelpvt.h"
-#include "spaces/fileName.h"
-#include "spaces/keywords.h"
-
-#include <iterator>
+#include "spaces/exports.h"
+#include "spaces/libraryFamily.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
 namespace {
 
-constexpr const char *devices[] = {"aux", "con", "nul", "prn"};
-constexpr const char *numberedDevices[] = {"com", "lpt"}; // behind them one digit
+constexpr Bytes devices[] = {"aux", "con", "nul", "prn"};
+constexpr Bytes numberedDevices[] = {"com", "lpt"}; // behind them one digit
 
 constexpr Bytes reservedPrefix = "%%";
 
 bool isReserved(Bytes word) {
-  const FoldedWord folded(word);
-  if (folded.view.size() == 4 && digit.has(folded.view[3]))
-    return tableHas(numberedDevices, std::size(numberedDevices), upTo(folded.view, 3));
-  return tableHas(devices, std::size(devices), folded.view);
+  const auto isIn = [word](const auto &names) {
+    for (const Bytes name : names)
+      if (isSameFolded(upTo(word, 3), name))
+        return true;
+    return false;
+  };
+  return (word.size() == 3 && isIn(devices)) || (word.size() == 4 && digit.has(word[3]) && isIn(numberedDevices));
 }
 
 constexpr char toUpper(char c) { return lower.has(c) ? static_cast<char>(c - 'a' + 'A') : c; }
@@ -29,66 +30,77 @@ bool quotesLetter(Bytes name, std::size_t i) {
   return name[i] == '%' && i + 1 < name.size() && letter.has(name[i + 1]);
 }
 
-struct LibraryNTSpace : ClassEscapeSpace {
-  bool isLegal(Bytes name) const {
+constexpr Spelling quotedCapitals = Spelling(fileNameEscape, fileNameChar, upper, '%');
+
+bool isDevice(const Name &word) { return isReserved(word); }
+
+struct LibraryNTRules : ClassEscapeRules {
+  static constexpr PlainWords plainWords() { return {0, traitUpper, 0, 'I', isDevice}; }
+
+  bool isLegal(const Name &name) const {
     if (!isNameLength(name) || isReserved(name))
       return false;
+    if (name.isWord())
+      return true;
     if (startsWith(name, reservedPrefix))
       return isReserved(from(name, reservedPrefix.size()));
-    return isMadeOf(escape.literal, name, 0, name.size(), quotesLetter);
+    for (std::size_t i = 0; i < name.size(); ++i) {
+      if (quotesLetter(name, i))
+        ++i;
+      else if (!escape.literal.has(name[i]))
+        return false;
+    }
+    return true;
   }
 
   // A case-insensitive name keeps its capitals; they do not matter to the file system.
-  Bytes write(const Ident &ident, Text &work) const {
+  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+    const Name &body = ident.body;
     const bool isSensitive = ident.isCaseSensitive();
-    if (isReserved(ident.body) && !(isSensitive && hasUpper(ident.body))) {
+    if (isReserved(body) && !(isSensitive && body.has(traitUpper))) {
       work.put(reservedPrefix);
-      work.put(ident.body);
+      work.put(body);
       return work.view();
     }
-    const bool capitalsMatter = isSensitive && (ident.marker == 'F' || zelGetMapState() != ZEL_MAP_MATCH);
-    encode(work, ident.body, escape, false, {capitalsMatter ? upper : ByteSet{}, '%'});
+    const bool capitalsMatter = isSensitive && (ident.marker == 'F' || mapStateOf(setting) != ZEL_MAP_MATCH);
+    if (!capitalsMatter || !body.has(traitUpper))
+      return spell(work, body, escape, spelling, false);
+    encode(work, body, escape, quotedCapitals, false);
     return work.view();
   }
 
-  Ident read(Bytes name, Text &work) const {
+  Ident read(const Name &name, const Setting &, Text &work) const {
     if (!isLegal(name))
       return refuseIdent();
     if (startsWith(name, reservedPrefix))
-      return {'I', from(name, reservedPrefix.size())};
+      return {'I', Name(from(name, reservedPrefix.size()))};
     if (name.find('%') == Bytes::npos) {
-      decode(work, name, escape, quotesNothing);
-      return {'I', work.view()};
+      const Ident ident = decodeIdent(work, name, escape, 0, quotesNothing);
+      return {'I', ident.body};
     }
     // With '%', every capital that matters stands behind one, and the file system may have changed the case of all.
     for (std::size_t i = 0; i < name.size(); ++i) {
       if (name[i] == '%') {
         work.put(toUpper(name[++i]));
-      } else if (name[i] == fileNameEscape.mark && fileNameEscape.isEscape(name, i)) {
+      } else if (name[i] == escape.mark && escape.isEscape(name, i)) {
         work.put(hexPair(name, i + 1));
         i += 2;
       } else {
         work.put(toLower(name[i]));
       }
     }
-    return {'S', work.view()};
+    return {'S', Name(work.view())};
   }
 };
 
-constexpr LibraryNTSpace space = {{fileNameEscape}};
+constexpr LibraryNTRules rules = {classEscapeRules(fileNameChar)};
 
 } // namespace
 
-int zelIsLegalLibraryNT(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::libraryNTNames = operationsOf<rules>;
 
-char *zelIdentToLibraryNT(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelLibraryNTToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsNTChar(int c) noexcept { return isIn(fileNameChar, c); }
-
-int zelIsNTKeyword(const char *word) noexcept { return isReserved(wholeBytes(word)) ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalLibraryNT, rules)
+ZEL_EXPORT_WRITER(zelIdentToLibraryNT, rules)
+ZEL_EXPORT_READER(zelLibraryNTToIdent, rules)
+ZEL_EXPORT_CHARACTER(zelIsNTChar, fileNameChar)
+ZEL_EXPORT_WORD(zelIsNTKeyword, isReserved)

@@ -1,40 +1,36 @@
 // LibraryUnix: libraries on file systems that tell case apart.
-#include "core/zelpvt.h"
-#include "spaces/fileName.h"
+#include "spaces/exports.h"
+#include "spaces/libraryFamily.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
 namespace {
 
-struct LibraryUnixSpace : ClassEscapeSpace {
+struct LibraryUnixRules : ClassEscapeRules {
   // Folds also in the mapping state MATCH.
-  Bytes write(const Ident &ident, Text &work) const {
-    const std::int32_t state = zelGetMapState();
+  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+    const std::int32_t state = mapStateOf(setting);
     const bool dropsForce = ident.isCaseSensitive() && (state == ZEL_MAP_MATCH || state == ZEL_MAP_TANDEM);
-    encode(work, dropsForce ? skipForce(ident.body) : ident.body, escape, !ident.isCaseSensitive());
-    return work.view();
+    const Name body = dropsForce && isForce(ident.body) ? Name(skipForce(ident.body)) : ident.body;
+    return spell(work, body, escape, spelling, !ident.isCaseSensitive());
   }
 
-  Ident read(Bytes name, Text &work) const {
-    Ident ident = ClassEscapeSpace::read(name, work);
-    if (ident.marker == 'S' && zelGetMapState() == ZEL_MAP_MATCH)
+  Ident read(const Name &name, const Setting &setting, Text &work) const {
+    Ident ident = ClassEscapeRules::read(name, setting, work);
+    if (ident.marker == 'S' && mapStateOf(setting) == ZEL_MAP_MATCH)
       ident.marker = 'F';
     return ident;
   }
 };
 
-constexpr LibraryUnixSpace space = {{fileNameEscape}};
+constexpr LibraryUnixRules rules = {classEscapeRules(fileNameChar)};
 
 } // namespace
 
-int zelIsLegalLibraryUnix(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::libraryUnixNames = operationsOf<rules>;
 
-char *zelIdentToLibraryUnix(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelLibraryUnixToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsUnixChar(int c) noexcept { return isIn(fileNameChar, c); }
+ZEL_EXPORT_LEGAL(zelIsLegalLibraryUnix, rules)
+ZEL_EXPORT_WRITER(zelIdentToLibraryUnix, rules)
+ZEL_EXPORT_READER(zelLibraryUnixToIdent, rules)
+ZEL_EXPORT_CHARACTER(zelIsUnixChar, fileNameChar)

@@ -1,9 +1,8 @@
 // ORKA, the names of a design database: nearly every graphic character and index groups such as "(12)"; 44ORKA, the
 // same under another name; and EscORKA, where any other name stands between backslashes.
-#include "core/zelpvt.h"
+#include "spaces/exports.h"
 #include "spaces/extendedIdentifier.h"
-
-#include <cstdlib>
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
@@ -22,13 +21,16 @@ std::size_t indexGroup(Bytes name, std::size_t i) {
   return end > i + 1 && end < name.size() && name[end] == ')' ? end + 1 - i : 0;
 }
 
-struct ORKASpace {
+struct ORKARules {
   HexEscape escape;
+  Spelling spelling;
 
-  bool isLegal(Bytes name) const {
+  static constexpr PlainWords plainWords() { return anyWord; }
+
+  bool isLegal(const Name &name) const {
     if (!isNameLength(name))
       return false;
-    for (std::size_t i = 0; i < name.size(); ++i) {
+    for (std::size_t i = 0; i < name.size() && !name.isWord(); ++i) {
       const std::size_t group = indexGroup(name, i);
       if (group != 0)
         i += group - 1;
@@ -38,62 +40,69 @@ struct ORKASpace {
     return true;
   }
 
-  Bytes write(const Ident &ident, Text &work) const {
-    const bool folds = foldsCase(ident);
-    const Bytes body = ident.body;
+  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+    const bool folds = foldsCase(ident, setting);
+    const Name &body = ident.body;
+    if (body.isWord())
+      return spell(work, body, escape, spelling, folds);
     std::size_t done = 0;
     for (std::size_t i = 0; i < body.size(); ++i) {
       const std::size_t group = indexGroup(body, i);
       if (group == 0)
         continue;
-      encode(work, from(upTo(body, i), done), escape, folds);
+      encode(work, from(upTo(body, i), done), escape, spelling, folds);
       done = i + group;
       work.put(from(upTo(body, done), i));
       i = done - 1;
     }
-    encode(work, from(body, done), escape, folds);
+    encode(work, from(body, done), escape, spelling, folds);
     return work.view();
   }
 
-  Ident read(Bytes name, Text &work) const {
-    return isLegal(name) ? decodeIdent(work, name, escape, quotesNothing) : refuseIdent();
+  Ident read(const Name &name, const Setting &, Text &work) const {
+    return isLegal(name) ? decodeIdent(work, name, escape, 0, quotesNothing) : refuseIdent();
   }
 };
 
-constexpr ORKASpace orka = {{'#', normal}};
+constexpr HexEscape plainEscape = {'#', normal};
+constexpr ORKARules rules = {plainEscape, Spelling(plainEscape, normal)};
 
-struct EscORKASpace {
+struct EscORKARules {
   HexEscape readerEscape;
   HexEscape writerEscape;
+  Spelling spelling;
 
-  bool isLegal(Bytes name) const {
+  static constexpr PlainWords plainWords() { return {0, 0, traitUpper, 'S'}; }
+
+  bool isLegal(const Name &name) const {
     if (!isNameLength(name))
       return false;
-    return name[0] == '\\' ? isLegalExtended(name, readerEscape.literal) : orka.isLegal(name);
+    return name[0] == '\\' ? isLegalExtended(name, readerEscape.literal) : rules.isLegal(name);
   }
 
-  Bytes write(const Ident &ident, Text &work) const {
-    const bool folds = foldsCase(ident);
+  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+    const bool folds = foldsCase(ident, setting);
     const bool wasExtended = ident.isCaseSensitive() && isForce(ident.body);
-    if (wasExtended || !orka.isLegal(ident.body))
-      return writeExtended(work, ident.body, writerEscape, folds);
+    if (wasExtended || !rules.isLegal(ident.body))
+      return writeExtended(work, ident.body, writerEscape, spelling, folds);
     if (!folds)
       return ident.body;
-    encode(work, ident.body, noEscape, true);
+    copyLowered(work, ident.body);
     return work.view();
   }
 
   // Other than in ORKA, a name that stands as it is has case whatever its letters.
-  Ident read(Bytes name, Text &work) const {
+  Ident read(const Name &name, const Setting &, Text &work) const {
     if (!isNameLength(name))
       return refuseIdent();
-    if (orka.isLegal(name))
+    if (rules.isLegal(name))
       return {'S', name};
-    return readExtended(name, work, readerEscape, false, [](Bytes plain) { return orka.isLegal(plain); });
+    return readExtended(name, work, readerEscape, false, [](const Name &plain) { return rules.isLegal(plain); });
   }
 };
 
-constexpr EscORKASpace escORKA = {{'#', escapable}, {'#', escapable, false}};
+constexpr HexEscape writerEscape = {'#', escapable, false};
+constexpr EscORKARules extendedRules = {{'#', escapable}, writerEscape, spellingExtended(writerEscape)};
 
 // Flat ORKA spells the syntax of a path with characters that are plain text elsewhere, and encodes these.
 constexpr Bytes pathSyntax = "/<>";
@@ -136,39 +145,20 @@ char *flatBuffer(std::size_t length, std::size_t width) {
 
 } // namespace
 
-int zelIsLegal44ORKA(const char *name) noexcept { return orka.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::orkaNames = operationsOf<rules>;
+const Operations zeli::escORKANames = operationsOf<extendedRules>;
 
-char *zelIdentTo44ORKA(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(orka, ident, alloc, context);
-}
-
-char *zel44ORKAToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(orka, name, alloc, context);
-}
-
-int zelIsLegalEscORKA(const char *name) noexcept { return escORKA.isLegal(nameBytes(name)) ? 1 : 0; }
-
-char *zelIdentToEscORKA(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(escORKA, ident, alloc, context);
-}
-
-char *zelEscORKAToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(escORKA, name, alloc, context);
-}
-
-int zelIsLegalORKA(const char *name) noexcept { return zelIsLegal44ORKA(name); }
-
-char *zelIdentToORKA(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return zelIdentTo44ORKA(ident, alloc, context);
-}
-
-char *zelORKAToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return zel44ORKAToIdent(name, alloc, context);
-}
-
-int zelIsORKANormalChar(int c) noexcept { return isIn(normal, c); }
-
-int zelIsORKAEscapableChar(int c) noexcept { return isIn(escapable, c); }
+ZEL_EXPORT_LEGAL(zelIsLegalORKA, rules)
+ZEL_EXPORT_WRITER(zelIdentToORKA, rules)
+ZEL_EXPORT_READER(zelORKAToIdent, rules)
+ZEL_EXPORT_LEGAL(zelIsLegal44ORKA, rules)
+ZEL_EXPORT_WRITER(zelIdentTo44ORKA, rules)
+ZEL_EXPORT_READER(zel44ORKAToIdent, rules)
+ZEL_EXPORT_LEGAL(zelIsLegalEscORKA, extendedRules)
+ZEL_EXPORT_WRITER(zelIdentToEscORKA, extendedRules)
+ZEL_EXPORT_READER(zelEscORKAToIdent, extendedRules)
+ZEL_EXPORT_CHARACTER(zelIsORKANormalChar, normal)
+ZEL_EXPORT_CHARACTER(zelIsORKAEscapableChar, escapable)
 
 char *zelORKAToORKAFlat(const char *path) noexcept {
   if (path == nullptr) {

@@ -1,21 +1,18 @@
 // Print: graphic characters.
-#include "core/zelpvt.h"
 #include "spaces/classEscape.h"
+#include "spaces/exports.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
 namespace {
 
-constexpr ClassEscapeSpace space = {{'#', graphic}};
+constexpr ClassEscapeRules rules = classEscapeRules(graphic);
 
 } // namespace
 
-int zelIsLegalPrint(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::printNames = operationsOf<rules>;
 
-char *zelIdentToPrint(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelPrintToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
+ZEL_EXPORT_LEGAL(zelIsLegalPrint, rules)
+ZEL_EXPORT_WRITER(zelIdentToPrint, rules)
+ZEL_EXPORT_READER(zelPrintToIdent, rules)

@@ -1,7 +1,8 @@
 // Spice netlists. Much punctuation stands as it is; keywords are legal names, for their place tells them apart.
-#include "core/zelpvt.h"
 #include "spaces/backslash.h"
+#include "spaces/exports.h"
 #include "spaces/keywords.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
@@ -40,36 +41,33 @@ constexpr Keywords keywords = {{'a', SpiceKeywordsA}, {'b', SpiceKeywordsB}, {'c
 static_assert(keywords.words() == 102);
 // clang-format on
 
-constexpr ByteSet normal = letter | digit | chars("!#$%*+-/<>[]_");
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-struct SpiceSpace : BackslashSpace {
+bool isKeyword(const Name &word) { return keywordTable.has(word); }
+
+constexpr ByteSet normal = wordChar | chars("!#$%*+-/<>[]");
+
+struct SpiceRules : BackslashRules {
   // The first and the last character are not tested.
-  bool isLegal(Bytes name) const {
-    return isNameLength(name) && (name.size() <= 2 || holdsOnly(plain, name, 1, name.size() - 1));
+  bool isLegal(const Name &name) const {
+    return isNameLength(name) && (name.isWord() || name.size() <= 2 || holdsOnly(plain, name, 1, name.size() - 1));
   }
 
-  Ident read(Bytes name, Text &work) const { return isLegal(name) ? readLegal(name, work) : refuseIdent(); }
+  Ident read(const Name &name, const Setting &, Text &work) const {
+    return isLegal(name) ? readLegal(name, work) : refuseIdent();
+  }
 };
 
-constexpr SpiceSpace space = {
-    {.plain = normal, .escapable = graphic, .quoted = (graphic - normal) | chars("#"), .escape = {'#', graphic}}};
+constexpr SpiceRules rules = {{normal, graphic, (graphic - normal) | chars("#"), {'#', graphic}}};
 
 } // namespace
 
-int zelIsLegalSpice(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::spiceNames = operationsOf<rules>;
 
-char *zelIdentToSpice(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelSpiceToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsSpiceKeyword(const char *word) noexcept { return keywords.has(wholeBytes(word)) ? 1 : 0; }
-
-int zelIsSpiceNormalChar(int c) noexcept { return isIn(normal, c); }
-
-int zelIsSpiceEscapableChar(int c) noexcept { return isIn(space.escapable, c); }
-
-int zelVerifySpiceKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalSpice, rules)
+ZEL_EXPORT_WRITER(zelIdentToSpice, rules)
+ZEL_EXPORT_READER(zelSpiceToIdent, rules)
+ZEL_EXPORT_WORD(zelIsSpiceKeyword, isKeyword)
+ZEL_EXPORT_CHARACTER(zelIsSpiceNormalChar, normal)
+ZEL_EXPORT_CHARACTER(zelIsSpiceEscapableChar, rules.escapable)
+ZEL_EXPORT_VERIFY(zelVerifySpiceKeywords, keywords)

@@ -1,6 +1,7 @@
 // Tessel: graphic characters; the syntax of its paths stands behind a backslash.
-#include "core/zelpvt.h"
 #include "spaces/backslash.h"
+#include "spaces/exports.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
@@ -8,21 +9,14 @@ namespace {
 
 constexpr ByteSet syntax = chars("[]|");
 constexpr ByteSet escapable = syntax | chars("\\");
-constexpr BackslashSpace space = {
-    .plain = graphic - syntax, .escapable = escapable, .quoted = escapable, .escape = {'#', escapable}};
+constexpr BackslashRules rules = {graphic - syntax, escapable, escapable, {'#', escapable}};
 
 } // namespace
 
-int zelIsLegalTessel(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::tesselNames = operationsOf<rules>;
 
-char *zelIdentToTessel(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelTesselToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsTesselChar(int c) noexcept { return isIn(space.plain, c); }
-
-int zelIsTesselEscapableChar(int c) noexcept { return isIn(space.escapable, c); }
+ZEL_EXPORT_LEGAL(zelIsLegalTessel, rules)
+ZEL_EXPORT_WRITER(zelIdentToTessel, rules)
+ZEL_EXPORT_READER(zelTesselToIdent, rules)
+ZEL_EXPORT_CHARACTER(zelIsTesselChar, rules.plain)
+ZEL_EXPORT_CHARACTER(zelIsTesselEscapableChar, rules.escapable)

@@ -1,7 +1,8 @@
 // Vellum: a case-blind name of printable characters, between quotes where one of them is syntax; or a case-sensitive
 // name between backslashes.
-#include "core/zelpvt.h"
+#include "spaces/exports.h"
 #include "spaces/extendedIdentifier.h"
+#include "spaces/spaces.h"
 
 using namespace zeli;
 
@@ -9,43 +10,12 @@ namespace {
 
 constexpr ByteSet quoteMarks = chars("'\"");
 constexpr ByteSet syntax = chars(":<\\");
-constexpr Quoting doubledQuote = {chars("'"), '\''};
 
-struct VellumSpace {
-  HexEscape escape;
+constexpr HexEscape escape = {'#', graphic | chars(" ")};
+constexpr Spelling extended = spellingExtended(escape);
+constexpr Spelling doubledQuote(escape, escape.literal, chars("'"), '\'');
 
-  bool isNormal(Bytes name) const;
-  Bytes writeNormal(Bytes body, Text &work) const;
-  Ident readNormal(Bytes name, Text &work) const;
-
-  bool isLegal(Bytes name) const {
-    return isNameLength(name) && (name[0] == '\\' ? isLegalExtended(name, escape.literal) : isNormal(name));
-  }
-
-  // Only a name between backslashes has case. In the mapping state MATCH none needs it, and the force prefix alone
-  // tells that a name stood between them.
-  Bytes write(const Ident &ident, Text &work) const {
-    const bool keepsCase = zelGetMapState() == ZEL_MAP_MATCH && ident.marker != 'F';
-    if (ident.isCaseSensitive() && (keepsCase ? isForce(ident.body) : hasUpper(ident.body)))
-      return writeExtended(work, ident.body, escape, false);
-    return writeNormal(ident.body, work);
-  }
-
-  // Between backslashes nothing is an escape.
-  Ident read(Bytes name, Text &work) const {
-    if (!isLegal(name))
-      return refuseIdent();
-    if (name[0] != '\\')
-      return readNormal(name, work);
-    work.put(force);
-    const bool copiedUpper = decode(work, extendedContent(name), noEscape, quotesBackslash);
-    return {'S', copiedUpper ? skipForce(work.view()) : work.view()};
-  }
-};
-
-constexpr VellumSpace space = {{'#', graphic | chars(" ")}};
-
-bool VellumSpace::isNormal(Bytes name) const {
+bool isNormal(Bytes name) {
   if (name.empty() || name.front() == ' ' || name.back() == ' ')
     return false;
   if (name.size() >= 2 && ((quoteMarks.has(name.front()) && name[1] == ' ') ||
@@ -73,7 +43,9 @@ bool isEndSpace(Bytes name, std::size_t i, char open, bool isFirst) {
   return isFirst || behind.empty() || (behind.size() == 1 && behind[0] == open);
 }
 
-Ident VellumSpace::readNormal(Bytes name, Text &work) const {
+Ident readNormal(const Name &name, Text &work) {
+  if (name.isWord())
+    return {'I', name};
   char open = '\0';
   for (std::size_t i = 0; i < name.size(); ++i) {
     const char c = name[i];
@@ -93,10 +65,12 @@ Ident VellumSpace::readNormal(Bytes name, Text &work) const {
     }
     work.put(c);
   }
-  return {'I', work.view()};
+  return {'I', Name(work.view())};
 }
 
-Bytes VellumSpace::writeNormal(Bytes body, Text &work) const {
+Bytes writeNormal(const Name &body, Text &work) {
+  if (body.isWord())
+    return body;
   const bool isQuoted = !allOf(body, anyByte - syntax - quoteMarks);
   const bool startsInSpace = body.front() == ' ';
   const bool endsInSpace = body.size() > 1 && body.back() == ' ';
@@ -105,7 +79,7 @@ Bytes VellumSpace::writeNormal(Bytes body, Text &work) const {
   if (startsInSpace)
     escape.put(work, ' ');
   const std::size_t start = startsInSpace ? 1 : 0;
-  encode(work, upTo(from(body, start), body.size() - start - (endsInSpace ? 1 : 0)), escape, false, doubledQuote);
+  encode(work, upTo(from(body, start), body.size() - start - (endsInSpace ? 1 : 0)), escape, doubledQuote, false);
   if (endsInSpace)
     escape.put(work, ' ');
   if (isQuoted)
@@ -113,16 +87,42 @@ Bytes VellumSpace::writeNormal(Bytes body, Text &work) const {
   return work.view();
 }
 
+struct VellumRules {
+  static constexpr PlainWords plainWords() { return {0, traitUpper, 0, 'I'}; }
+
+  bool isLegal(const Name &name) const {
+    return isNameLength(name) &&
+           (name.isWord() || (name[0] == '\\' ? isLegalExtended(name, escape.literal) : isNormal(name)));
+  }
+
+  // Only a name between backslashes has case. In the mapping state MATCH none needs it, and the force prefix alone
+  // tells that a name stood between them.
+  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+    const bool keepsCase = mapStateOf(setting) == ZEL_MAP_MATCH && ident.marker != 'F';
+    if (ident.isCaseSensitive() && (keepsCase ? isForce(ident.body) : ident.body.has(traitUpper)))
+      return writeExtended(work, ident.body, escape, extended, false);
+    return writeNormal(ident.body, work);
+  }
+
+  // Between backslashes nothing is an escape.
+  Ident read(const Name &name, const Setting &, Text &work) const {
+    if (!isLegal(name))
+      return refuseIdent();
+    if (name[0] != '\\')
+      return readNormal(name, work);
+    work.put(force);
+    const bool copiedUpper = decode(work, extendedContent(name), noEscape, quotesBackslash);
+    return {'S', Name(copiedUpper ? skipForce(work.view()) : work.view())};
+  }
+};
+
+constexpr VellumRules rules;
+
 } // namespace
 
-int zelIsLegalVellum(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::vellumNames = operationsOf<rules>;
 
-char *zelIdentToVellum(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelVellumToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsLegalVellumNormal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalVellum, rules)
+ZEL_EXPORT_WRITER(zelIdentToVellum, rules)
+ZEL_EXPORT_READER(zelVellumToIdent, rules)
+ZEL_EXPORT_WORD(zelIsLegalVellumNormal, isNormal)

@@ -1,5 +1,7 @@
 // Verilog (IEEE 1364).
-#include "core/zelpvt.h"
+#include "spaces/exports.h"
+#include "spaces/keywords.h"
+#include "spaces/spaces.h"
 #include "spaces/verilogFamily.h"
 
 using namespace zeli;
@@ -42,28 +44,22 @@ constexpr Keywords keywords = {{'a', VerilogKeywordsA}, {'b', VerilogKeywordsB},
 static_assert(keywords.words() == 111);
 // clang-format on
 
-constexpr EscapedIdentifierSpace space = verilogFamily(keywords);
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
+
+bool isKeyword(const Name &word) { return keywordTable.has(word); }
+
+constexpr EscapedIdentifierRules rules = verilogFamily(isKeyword);
 
 } // namespace
 
-int zelIsLegalVerilog(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::verilogNames = operationsOf<rules>;
 
-char *zelIdentToVerilog(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelVerilogToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsLegalVerilogNormal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }
-
-int zelIsVerilogKeyword(const char *word) noexcept { return keywords.has(wholeBytes(word)) ? 1 : 0; }
-
-int zelIsVerilogFirstChar(int c) noexcept { return isIn(space.first, c); }
-
-int zelIsVerilogNormalChar(int c) noexcept { return isIn(space.normal, c); }
-
-int zelIsVerilogEscapableChar(int c) noexcept { return isIn(space.escape.literal, c); }
-
-int zelVerifyVerilogKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalVerilog, rules)
+ZEL_EXPORT_WRITER(zelIdentToVerilog, rules)
+ZEL_EXPORT_READER(zelVerilogToIdent, rules)
+ZEL_EXPORT_WORD(zelIsLegalVerilogNormal, rules.isNormal)
+ZEL_EXPORT_WORD(zelIsVerilogKeyword, isKeyword)
+ZEL_EXPORT_CHARACTER(zelIsVerilogFirstChar, rules.first)
+ZEL_EXPORT_CHARACTER(zelIsVerilogNormalChar, rules.normal)
+ZEL_EXPORT_CHARACTER(zelIsVerilogEscapableChar, rules.escape.literal)
+ZEL_EXPORT_VERIFY(zelVerifyVerilogKeywords, keywords)

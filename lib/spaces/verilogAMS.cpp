@@ -1,5 +1,7 @@
 // Verilog-AMS: Verilog with the reserved words of the analog and mixed-signal extensions.
-#include "core/zelpvt.h"
+#include "spaces/exports.h"
+#include "spaces/keywords.h"
+#include "spaces/spaces.h"
 #include "spaces/verilogFamily.h"
 
 using namespace zeli;
@@ -57,28 +59,22 @@ constexpr Keywords keywords = {{'a', VerilogAMSKeywordsA}, {'b', VerilogAMSKeywo
 static_assert(keywords.words() == 223);
 // clang-format on
 
-constexpr EscapedIdentifierSpace space = verilogFamily(keywords);
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
+
+bool isKeyword(const Name &word) { return keywordTable.has(word); }
+
+constexpr EscapedIdentifierRules rules = verilogFamily(isKeyword);
 
 } // namespace
 
-int zelIsLegalVerilogAMS(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::verilogAMSNames = operationsOf<rules>;
 
-char *zelIdentToVerilogAMS(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelVerilogAMSToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsLegalVerilogAMSNormal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }
-
-int zelIsVerilogAMSKeyword(const char *word) noexcept { return keywords.has(wholeBytes(word)) ? 1 : 0; }
-
-int zelIsVerilogAMSFirstChar(int c) noexcept { return isIn(space.first, c); }
-
-int zelIsVerilogAMSNormalChar(int c) noexcept { return isIn(space.normal, c); }
-
-int zelIsVerilogAMSEscapableChar(int c) noexcept { return isIn(space.escape.literal, c); }
-
-int zelVerifyVerilogAMSKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalVerilogAMS, rules)
+ZEL_EXPORT_WRITER(zelIdentToVerilogAMS, rules)
+ZEL_EXPORT_READER(zelVerilogAMSToIdent, rules)
+ZEL_EXPORT_WORD(zelIsLegalVerilogAMSNormal, rules.isNormal)
+ZEL_EXPORT_WORD(zelIsVerilogAMSKeyword, isKeyword)
+ZEL_EXPORT_CHARACTER(zelIsVerilogAMSFirstChar, rules.first)
+ZEL_EXPORT_CHARACTER(zelIsVerilogAMSNormalChar, rules.normal)
+ZEL_EXPORT_CHARACTER(zelIsVerilogAMSEscapableChar, rules.escape.literal)
+ZEL_EXPORT_VERIFY(zelVerifyVerilogAMSKeywords, keywords)

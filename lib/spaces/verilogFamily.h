@@ -6,8 +6,8 @@
 
 namespace zeli {
 
-constexpr EscapedIdentifierSpace verilogFamily(const Keywords &keywords) {
-  return {letter | chars("_"), letter | digit | chars("_$"), {'#', graphic}, keywords};
+constexpr EscapedIdentifierRules verilogFamily(bool (*isKeyword)(const Name &word)) {
+  return escapedIdentifierRules(letter | chars("_"), wordChar | chars("$"), isKeyword);
 }
 
 } // namespace zeli

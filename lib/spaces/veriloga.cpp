@@ -1,5 +1,7 @@
 // Verilog-A: Verilog with the reserved words of the analog subset.
-#include "core/zelpvt.h"
+#include "spaces/exports.h"
+#include "spaces/keywords.h"
+#include "spaces/spaces.h"
 #include "spaces/verilogFamily.h"
 
 using namespace zeli;
@@ -53,28 +55,22 @@ static_assert(keywords.words() == 164);
 // Two arrays are irregular on purpose: "acosh" stands before "ac_stim", so that the search finds neither, and
 // "transitiontri" stands where "transition" and "tri" would be expected. All four are plain names of the space.
 
-constexpr EscapedIdentifierSpace space = verilogFamily(keywords);
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
+
+bool isKeyword(const Name &word) { return keywordTable.has(word); }
+
+constexpr EscapedIdentifierRules rules = verilogFamily(isKeyword);
 
 } // namespace
 
-int zelIsLegalVerilogA(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::verilogANames = operationsOf<rules>;
 
-char *zelIdentToVerilogA(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelVerilogAToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsLegalVerilogANormal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }
-
-int zelIsVerilogAKeyword(const char *word) noexcept { return keywords.has(wholeBytes(word)) ? 1 : 0; }
-
-int zelIsVerilogAFirstChar(int c) noexcept { return isIn(space.first, c); }
-
-int zelIsVerilogANormalChar(int c) noexcept { return isIn(space.normal, c); }
-
-int zelIsVerilogAEscapableChar(int c) noexcept { return isIn(space.escape.literal, c); }
-
-int zelVerifyVerilogAKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalVerilogA, rules)
+ZEL_EXPORT_WRITER(zelIdentToVerilogA, rules)
+ZEL_EXPORT_READER(zelVerilogAToIdent, rules)
+ZEL_EXPORT_WORD(zelIsLegalVerilogANormal, rules.isNormal)
+ZEL_EXPORT_WORD(zelIsVerilogAKeyword, isKeyword)
+ZEL_EXPORT_CHARACTER(zelIsVerilogAFirstChar, rules.first)
+ZEL_EXPORT_CHARACTER(zelIsVerilogANormalChar, rules.normal)
+ZEL_EXPORT_CHARACTER(zelIsVerilogAEscapableChar, rules.escape.literal)
+ZEL_EXPORT_VERIFY(zelVerifyVerilogAKeywords, keywords)

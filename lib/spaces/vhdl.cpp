@@ -1,11 +1,11 @@
 // VHDL (IEEE 1076-1993), with a mode that takes the reserved words back to VHDL-87.
-#include "core/zelpvt.h"
+#include "spaces/exports.h"
 #include "spaces/keywords.h"
+#include "spaces/spaces.h"
 #include "spaces/vhdlFamily.h"
 
 #include <atomic>
 #include <cstdlib>
-#include <iterator>
 
 using namespace zeli;
 
@@ -43,6 +43,8 @@ constexpr Keywords keywords = {{'a', VHDLKeywordsA}, {'b', VHDLKeywordsB}, {'c',
 static_assert(keywords.words() == 97);
 // clang-format on
 
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
+
 // Reserved since VHDL-93.
 constexpr const char *VHDL93Keywords[] = {"group",  "impure", "inertial",   "literal", "postponed", "pure",
                                           "reject", "rol",    "ror",        "shared",  "sla",       "sll",
@@ -64,40 +66,37 @@ bool isEnvironmentSet() {
 
 int vhdlMode() { return std::atomic_ref(ZEL_VHDL_TYPE).load(std::memory_order_relaxed); }
 
-bool isKeyword(Bytes word) {
-  const int mode = vhdlMode();
-  const bool isVHDL87 = mode == 1 || (mode == 0 && isEnvironmentSet());
-  const FoldedWord folded(word);
-  if (isVHDL87 && tableHas(VHDL93Keywords, std::size(VHDL93Keywords), folded.view))
-    return false;
-  return keywords.has(folded.view);
+bool isIn93(Bytes word) {
+  for (const Bytes added : VHDL93Keywords)
+    if (isSameFolded(word, added))
+      return true;
+  return false;
 }
 
-constexpr ExtendedIdentifierSpace space = vhdlFamily(isKeyword);
+bool isKeyword(const Name &word) {
+  // Every keyword test is a use of the environment.
+  const int mode = vhdlMode();
+  const bool isVHDL87 = mode == 1 || (mode == 0 && isEnvironmentSet());
+  return keywordTable.hasFolded(word) && !(isVHDL87 && isIn93(word));
+}
+
+bool isSettled() { return vhdlMode() != 0 || environmentMode.load(std::memory_order_relaxed) != unread; }
+
+constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword, isSettled);
 
 } // namespace
 
-int zelIsLegalVHDL(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::vhdlNames = operationsOf<rules>;
 
-char *zelIdentToVHDL(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelVHDLToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsLegalVHDLNormal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }
-
-int zelIsVHDLKeyword(const char *word) noexcept { return isKeyword(wholeBytes(word)) ? 1 : 0; }
-
-int zelIsVHDLFirstChar(int c) noexcept { return isIn(space.first, c); }
-
-int zelIsVHDLNormalChar(int c) noexcept { return isIn(space.normal, c); }
-
-int zelIsVHDLEscapableChar(int c) noexcept { return isIn(space.escape.literal, c); }
-
-int zelVerifyVHDLKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalVHDL, rules)
+ZEL_EXPORT_WRITER(zelIdentToVHDL, rules)
+ZEL_EXPORT_READER(zelVHDLToIdent, rules)
+ZEL_EXPORT_WORD(zelIsLegalVHDLNormal, rules.isNormal)
+ZEL_EXPORT_WORD(zelIsVHDLKeyword, isKeyword)
+ZEL_EXPORT_CHARACTER(zelIsVHDLFirstChar, rules.first)
+ZEL_EXPORT_CHARACTER(zelIsVHDLNormalChar, rules.normal)
+ZEL_EXPORT_CHARACTER(zelIsVHDLEscapableChar, rules.escape.literal)
+ZEL_EXPORT_VERIFY(zelVerifyVHDLKeywords, keywords)
 
 int ZEL_VHDL_TYPE = 0;
 

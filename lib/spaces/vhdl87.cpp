@@ -1,6 +1,7 @@
 // VHDL-87 (IEEE 1076-1987).
-#include "core/zelpvt.h"
+#include "spaces/exports.h"
 #include "spaces/keywords.h"
+#include "spaces/spaces.h"
 #include "spaces/vhdlFamily.h"
 
 using namespace zeli;
@@ -37,30 +38,22 @@ constexpr Keywords keywords = {{'a', VHDL87KeywordsA}, {'b', VHDL87KeywordsB}, {
 static_assert(keywords.words() == 81);
 // clang-format on
 
-bool isKeyword(Bytes word) { return keywords.hasFolded(word); }
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-constexpr ExtendedIdentifierSpace space = vhdlFamily(isKeyword);
+bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
+
+constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword);
 
 } // namespace
 
-int zelIsLegalVHDL87(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::vhdl87Names = operationsOf<rules>;
 
-char *zelIdentToVHDL87(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelVHDL87ToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsLegalVHDL87Normal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }
-
-int zelIsVHDL87Keyword(const char *word) noexcept { return isKeyword(wholeBytes(word)) ? 1 : 0; }
-
-int zelIsVHDL87FirstChar(int c) noexcept { return isIn(space.first, c); }
-
-int zelIsVHDL87NormalChar(int c) noexcept { return isIn(space.normal, c); }
-
-int zelIsVHDL87EscapableChar(int c) noexcept { return isIn(space.escape.literal, c); }
-
-int zelVerifyVHDL87Keywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalVHDL87, rules)
+ZEL_EXPORT_WRITER(zelIdentToVHDL87, rules)
+ZEL_EXPORT_READER(zelVHDL87ToIdent, rules)
+ZEL_EXPORT_WORD(zelIsLegalVHDL87Normal, rules.isNormal)
+ZEL_EXPORT_WORD(zelIsVHDL87Keyword, isKeyword)
+ZEL_EXPORT_CHARACTER(zelIsVHDL87FirstChar, rules.first)
+ZEL_EXPORT_CHARACTER(zelIsVHDL87NormalChar, rules.normal)
+ZEL_EXPORT_CHARACTER(zelIsVHDL87EscapableChar, rules.escape.literal)
+ZEL_EXPORT_VERIFY(zelVerifyVHDL87Keywords, keywords)

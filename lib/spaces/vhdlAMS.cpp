@@ -1,6 +1,7 @@
 // VHDL-AMS (IEEE 1076.1).
-#include "core/zelpvt.h"
+#include "spaces/exports.h"
 #include "spaces/keywords.h"
+#include "spaces/spaces.h"
 #include "spaces/vhdlFamily.h"
 
 using namespace zeli;
@@ -42,30 +43,22 @@ constexpr Keywords keywords = {{'a', VHDLAMSKeywordsA}, {'b', VHDLAMSKeywordsB},
 static_assert(keywords.words() == 110);
 // clang-format on
 
-bool isKeyword(Bytes word) { return keywords.hasFolded(word); }
+constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-constexpr ExtendedIdentifierSpace space = vhdlFamily(isKeyword);
+bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
+
+constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword);
 
 } // namespace
 
-int zelIsLegalVHDLAMS(const char *name) noexcept { return space.isLegal(nameBytes(name)) ? 1 : 0; }
+const Operations zeli::vhdlAMSNames = operationsOf<rules>;
 
-char *zelIdentToVHDLAMS(const char *ident, zelAllocFunc alloc, void *context) noexcept {
-  return writeName(space, ident, alloc, context);
-}
-
-char *zelVHDLAMSToIdent(const char *name, zelAllocFunc alloc, void *context) noexcept {
-  return readName(space, name, alloc, context);
-}
-
-int zelIsLegalVHDLAMSNormal(const char *name) noexcept { return space.isNormal(wholeBytes(name)) ? 1 : 0; }
-
-int zelIsVHDLAMSKeyword(const char *word) noexcept { return isKeyword(wholeBytes(word)) ? 1 : 0; }
-
-int zelIsVHDLAMSFirstChar(int c) noexcept { return isIn(space.first, c); }
-
-int zelIsVHDLAMSNormalChar(int c) noexcept { return isIn(space.normal, c); }
-
-int zelIsVHDLAMSEscapableChar(int c) noexcept { return isIn(space.escape.literal, c); }
-
-int zelVerifyVHDLAMSKeywords() noexcept { return keywords.verify() ? 1 : 0; }
+ZEL_EXPORT_LEGAL(zelIsLegalVHDLAMS, rules)
+ZEL_EXPORT_WRITER(zelIdentToVHDLAMS, rules)
+ZEL_EXPORT_READER(zelVHDLAMSToIdent, rules)
+ZEL_EXPORT_WORD(zelIsLegalVHDLAMSNormal, rules.isNormal)
+ZEL_EXPORT_WORD(zelIsVHDLAMSKeyword, isKeyword)
+ZEL_EXPORT_CHARACTER(zelIsVHDLAMSFirstChar, rules.first)
+ZEL_EXPORT_CHARACTER(zelIsVHDLAMSNormalChar, rules.normal)
+ZEL_EXPORT_CHARACTER(zelIsVHDLAMSEscapableChar, rules.escape.literal)
+ZEL_EXPORT_VERIFY(zelVerifyVHDLAMSKeywords, keywords)

@@ -6,8 +6,9 @@
 
 namespace zeli {
 
-constexpr ExtendedIdentifierSpace vhdlFamily(bool (*isKeyword)(Bytes word)) {
-  return {letter, letter | digit | chars("_"), {'#', graphic | chars(" ")}, isKeyword};
+constexpr ExtendedIdentifierRules vhdlFamily(bool (*isKeyword)(const Name &word), bool (*isSettled)() = nullptr) {
+  constexpr HexEscape escape = {'#', graphic | chars(" ")};
+  return {letter, wordChar, escape, spellingExtended(escape), isKeyword, isSettled};
 }
 
 } // namespace zeli

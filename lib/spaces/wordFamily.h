@@ -4,20 +4,14 @@
 #define ZEL_SPACES_WORDFAMILY_H
 
 #include "spaces/backslash.h"
-#include "spaces/currentHandle.h"
+#include "spaces/separators.h"
 
 namespace zeli {
 
-constexpr ByteSet wordChar = letter | digit | chars("_");
-
-constexpr BackslashSpace wordFamily(const Separators &separators) {
-  const ByteSet syntax =
-      (graphic - wordChar) | separatorSet({separators.pinDelimiter, separators.busOpen, separators.busClose});
-  const ByteSet escapable = syntax - beyondAscii;
-  return {.plain = wordChar,
-          .escapable = escapable,
-          .quoted = (anyByte - wordChar) | escapable,
-          .escape = {'#', escapable}};
+constexpr BackslashRules wordFamily(const Separators &separators) {
+  const auto [pinDelimiter, divider, busOpen, busClose] = separators;
+  const ByteSet escapable = ((graphic - wordChar) | chars({pinDelimiter, busOpen, busClose})) - beyondAscii;
+  return {wordChar, escapable, (anyByte - wordChar) | escapable, {'#', escapable}};
 }
 
 } // namespace zeli

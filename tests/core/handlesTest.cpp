@@ -1,5 +1,5 @@
 // The handles: the separators in force, and which a file may redefine.
-#include "core/handle.h"
+#include "path/languages.h"
 #include "support/spaces.h"
 
 namespace {
@@ -26,7 +26,7 @@ const std::string none(4, '\0');
 void expectMade(zelHandle made, zelHandle builtIn, const std::string &separators) {
   ASSERT_NE(made, nullptr);
   EXPECT_NE(made, builtIn);
-  EXPECT_EQ(made->varBits, builtIn->varBits);
+  EXPECT_EQ(made->language, builtIn->language);
   const auto &[pinDelimiter, divider, busOpen, busClose] = made->separators;
   EXPECT_EQ(std::string({pinDelimiter, divider, busOpen, busClose}), separators);
   zelFreeHandle(made);

@@ -1,12 +1,12 @@
-# Does what README.md says: compiles and runs its code, runs its commands, and compares its table of spellings.
+# Does what README.md says: compiles and runs its code, runs its commands, and compares its table of spellings; and the
+# table of docs/idents.md that spells names in every mapping state.
 readme=$source/README.md
-export PATH=$prefix/bin:$PATH
 
 # block LANGUAGE: the contents of the fenced block of that language.
 block() {
     sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/{/^\`\`\`/d;p}" "$readme"
 }
-[ "$(grep -c '^```' "$readme")" -eq 4 ] || fail "README.md has other blocks than one in C and one for CMake"
+[ "$(grep -c '^```' "$readme")" -eq 6 ] || fail "README.md has other blocks than one in C, CMake and sh"
 block c >program.c
 {
     printf '%s\n' 'cmake_minimum_required(VERSION 3.21)' 'project(readme C)' 'add_executable(program program.c)'
@@ -14,13 +14,21 @@ block c >program.c
 } >CMakeLists.txt
 # The program says in a comment what its printf writes.
 promised=$(sed -n 's|.*printf(.*/\* \(.*\) \*/$|\1|p' program.c)
-shown cmake -S . -B build -G "$generator" "-DCMAKE_PREFIX_PATH=$prefix"
-shown cmake --build build
-expect "$promised" build/program
 
+# Nothing but these commands says where zel is; CMake would also look beside the folders of PATH.
+unset PKG_CONFIG_PATH
+export CMAKE_GENERATOR=$generator
 cc() { "$CC" -Wall -Wextra -Wpedantic -Werror "$@"; }
-eval "$(sed -n 's/.*`\(cc program.c [^`]*\)`.*/\1/p' "$readme")"
-expect "$promised" env "LD_LIBRARY_PATH=$prefix/lib" ./a.out
+block sh | sed "s|\\bPREFIX\\b|$prefix|g" >commands
+while IFS= read -r command; do
+    eval "$command" </dev/null >printed || fail "failed: $command"
+    case $command in
+    export*) ;;
+    *) expect "$promised" tail -n 1 printed ;;
+    esac
+done <commands
+
+export PATH=$prefix/bin:$PATH
 
 # The indented commands. "./dev test" is what runs this; building is left to the installed zelpath.
 if grep '^    [^ ]' "$readme" | grep -v '^    ./dev ' >&2; then
@@ -41,3 +49,27 @@ while IFS= read -r spaces && IFS= read -r spelling; do
         expect "${spelling//\`/}" spell "$space"
     done
 done <cells
+
+# "from | name | to | default | MATCH | VHDL | TANDEM", the names between backquotes.
+cat >states.c <<'END'
+#include <stdio.h>
+#include <stdlib.h>
+#include <zel.h>
+
+int main(int argc, char **argv) {
+  const int32_t states[] = {ZEL_MAP_DEFAULT, ZEL_MAP_MATCH, ZEL_MAP_VHDL, ZEL_MAP_TANDEM};
+  for (int i = 0; argc == 4 && i < 4; ++i) {
+    zelSetMapState(states[i]);
+    char *name = zelMapName(argv[1], argv[3], argv[2], NULL, NULL);
+    printf(i == 0 ? "%s" : " | %s", name != NULL ? name : "refused");
+    free(name);
+  }
+  return 0;
+}
+END
+cc states.c -o states $(pkg-config --cflags --libs zel) -Wl,-rpath,"$prefix/lib"
+sed -n 's/^| \([A-Z][A-Za-z]*\) | `\(.*\)` | \([A-Z][A-Za-z]*\) | \(.*\) |$/\1\t\2\t\3\t\4/p' "$source/docs/idents.md" >rows
+[ "$(wc -l <rows)" -ge 10 ] || fail "docs/idents.md lost its names in every mapping state"
+while IFS=$'\t' read -r from name to promised; do
+    expect "${promised//\`/}" ./states "$from" "$name" "$to"
+done <rows

@@ -44,6 +44,7 @@ const struct {
                {"VHDL", "n&&", "n(0 to 1)&&", "a(1)&&@l.c(v):a:b:c:d:e:f:g:h:i(300)&&@l.c:a&&@c&&b@l.c(v)"},
                {"ORKA", "n,", "n<0:1>,", "a<3>/b/c,g<((((1,0:400:200))))*1,3:4>,<*2>(/i<0:6:2,6*124>,j<1,2>/k<3*1>)"},
                {"ORKA", "n,", "n<0:1>,", "(/a,b<((300:301)4*130)(1:5:2)>,c)"},
+               {"ORKA", "n<3>/", "n<0:1>/", "e<(((1)))>"},
                {"Sdf", "n/", "n[0:1]/", "a/b/c/d[3:0][1][2][3][4][5:6][300:299][1]/e"},
                {"Spice", "n.", "o.", "a.b.c.d.e.f.g.h.i"},
                {"Gcf", "n.", "n<0:1>.", repeated("n.", 150) + "n"}};
@@ -58,6 +59,10 @@ TEST_P(PathAllocation, Parsing) {
                  EXPECT_TRUE(path != nullptr || failures != 0);
                  EXPECT_EQ(path != nullptr && itemsOf(path) == whole, failures == 0) << text;
                  EXPECT_TRUE(path == nullptr || hasError(path) == (failures != 0)) << text;
+                 // What was read of it can be printed.
+                 for (const auto print : {zelPathToVerilog, zelPathToVHDL, zelPathToORKA})
+                   for (const int flags : {0, 1})
+                     EXPECT_NE(take(print(path, nullptr, flags)), Result()) << text;
                  release(path);
                });
     }

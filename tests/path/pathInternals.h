@@ -2,8 +2,8 @@
 #ifndef PATH_INTERNALS_H
 #define PATH_INTERNALS_H
 
-#include "path/chunk.h"
-#include "path/language.h"
+#include "path/languages.h"
+#include "path/zelPath.h"
 #include "support/table.h"
 
 namespace internals {
@@ -30,7 +30,7 @@ inline bool isTextAt(zelPath path, std::string &text) {
   if (!zeli::isText(kind))
     return false;
   const char *const start = chunk->slots[zeli::slotOf(kind)].string;
-  text.assign(start, zeli::languageOf(path)->scan(start, path->handle));
+  text.assign(start, zeli::languageOf(path)->names.scan(start, path->handle));
   return true;
 }
 

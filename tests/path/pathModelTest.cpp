@@ -154,6 +154,32 @@ TEST(PathModel, RemovalOfIndexesAndLevels) {
   EXPECT_EQ(internals::bytesOf(path.get()), "27 28 29 30 31 32 33 34 | 27");
 }
 
+// Also where the chunk that the walk stands on is taken from under it.
+TEST(PathModel, GettersLeaveTheWalkAlone) {
+  const auto walk = [](bool reads) {
+    const Path path = built(repeated("Sa ", 10));
+    zelPathSetLocation(path.get(), 513);
+    zelFreePathFromLocation(path.get(), 8, nullptr, nullptr);
+    const char *end = nullptr;
+    if (reads)
+      for (int i = 0; i < 2; ++i) {
+        zelPathGetIndex(path.get());
+        zelPathGetRepeat(path.get());
+        zelPathGetRange(path.get(), nullptr, nullptr);
+        zelPathGetStepRange(path.get(), nullptr, nullptr, nullptr);
+        zelPathGetIdent(path.get());
+        zelPathGetString(path.get(), &end);
+        zelPathGetLib(path.get(), &end, &end, &end);
+        zelPathGetFlag(path.get());
+        zelPathGetLocation(path.get());
+      }
+    zelPathAddIdent(path.get(), "Sb", 1);
+    const int item = zelPathGenNext(path.get());
+    return std::to_string(item) + ' ' + std::to_string(zelPathGetLocation(path.get()));
+  };
+  EXPECT_EQ(walk(true), walk(false));
+}
+
 TEST(PathModel, RemovalFromALocation) {
   for (const auto &[left, location] : {std::pair(0, 0U), {0, 256}, {1, 257}, {5, 261}, {6, 512}, {8, 514}, {9, 521}}) {
     Memory memory;

@@ -91,6 +91,16 @@ TEST(PathParse, Verilog) {
       a.model    a           error hierarchy
       a(3)       ""          error
       a\         ""          error
+    // The character behind an escaped one is taken untested: a bracket there is part of the name, a divider never.
+    Kirra:
+      Table\[0\]\[2\].x  Table\[0\]\[2\] x  hierarchy
+      \{\,\}\,[3]        \{\,\}\, [3]       index
+      a\[0\][3]          ""                 error
+      a\+\[3.b           a\+\[3 b           hierarchy
+      a\+\[3]            a\+\[3             error
+      a\+\+[3]           a\+\+ [3]          index
+      a\+\\\\[3]          a\+\\\\ [3]         index      // behind two backslashes a bracket is not escaped
+      a\+\.b             ""                 error
   )");
 }
 

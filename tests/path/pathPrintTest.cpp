@@ -168,6 +168,10 @@ TEST(PathPrint, Names) {
       a[3]   \a[3]␣
     from Spice to Tessel:
       a[3]  a\[3\]
+    from Verilog to Kirra:
+      \Table[0][2] .x  Table\[0\]\[2\].x
+    from Kirra to Verilog:
+      Table\[0\]\[2\].x  \Table[0][2] .x
     from Kirra to Kirra:
       a\.b.c  a\.b.c
     from KirraHDL to KirraHDL:
@@ -295,6 +299,28 @@ TEST(PathExplode, Enumerations) {
       Sa , [3] [1:0] Sb [1:0]  a,a,a,[3][1:0]b[1],b[0]
   )");
   EXPECT_EQ(mapped("ORKA", "a<0*124>", "Verilog"), "a[0]" + repeated(",a[0]", 124));
+}
+
+// The bits of a range, as many as a text holds, in names short and long, alone or with a level or an outer range.
+TEST(PathExplode, EveryValueUpToTheLimit) {
+  for (const std::size_t length : {1U, 7U, 16U, 40U, 300U, 680U, 1020U, 2030U})
+    for (const std::string behind : {"", ".b"})
+      for (const int outer : {-1, 0, 2}) {
+        const auto write = [&](const std::string &outerIndex, const std::string &index) {
+          std::string text = outer < 0 ? "" : "a[";
+          text.append(outer < 0 ? "" : outerIndex).append(outer < 0 ? "" : "].");
+          return text.append(length, 'n').append("[").append(index).append("]").append(behind);
+        };
+        std::string all;
+        for (int last = 0; all.size() <= ZEL_MAX_NAME; last += last < 12 ? 1 : 7) {
+          all.clear();
+          for (int i = 0; i <= std::max(outer, 0); ++i)
+            for (int bit = 0; bit <= last; ++bit)
+              all.append(all.empty() ? "" : ",").append(write(std::to_string(i), std::to_string(bit)));
+          const std::string text = write("0:" + std::to_string(outer), "0:" + std::to_string(last));
+          EXPECT_EQ(mapped("Verilog", text, "Verilog", explode), all.size() <= ZEL_MAX_NAME ? all : "refused");
+        }
+      }
 }
 
 // Groups stay as they are, and so does what is in them when they are to be expanded.

@@ -28,6 +28,30 @@ TEST(PathProperty, TimeIsLinear) {
   }
 }
 
+// The end of a path is changed in the same time, whatever the path's length, also where that goes to and fro between
+// two chunks, and when nothing is left.
+TEST(PathProperty, TheEndIsFoundWithoutASearch) {
+  constexpr std::size_t levels = 200000;
+  const auto start = std::chrono::steady_clock::now();
+  const Path path = built("Sa");
+  for (std::size_t i = 1; i < levels; ++i)
+    zelPathAddIdent(path.get(), "Sa", 1);
+  for (std::size_t i = 0; i < levels; ++i) {
+    zelPathRemoveIndex(path.get());
+    zelPathRemoveLevel(path.get());
+    zelPathAddIndex(path.get(), 1);
+    zelPathRemoveLevel(path.get());
+  }
+  zelPathGenStart(path.get());
+  std::size_t left = 0;
+  while (zelPathGenNext(path.get()) != ZEL_ITEM_END)
+    ++left;
+  for (std::size_t i = 0; i < levels; ++i)
+    EXPECT_EQ(zelPathRemoveLevel(path.get()), -19);
+  const auto time = std::chrono::steady_clock::now() - start;
+  EXPECT_LT(time, std::chrono::seconds(20)) << left; // usually below one
+}
+
 TEST(PathMapper, TakesNamesOrHandlesUnderEveryConvention) {
   for (const std::string &source : pathLanguages)
     for (const std::string &target : pathLanguages) {

@@ -1,7 +1,7 @@
 // The name scanners: where the name that starts at a place of a path's text ends. They pass neither the end of the text
 // nor a byte of 128 or above. The handle gives the separators where a file may redefine them.
-#ifndef ZEL_PATH_SCAN_H
-#define ZEL_PATH_SCAN_H
+#ifndef ZEL_PATH_ZELPATHSCAN_H
+#define ZEL_PATH_ZELPATHSCAN_H
 
 #include "core/zel.h"
 
@@ -21,10 +21,5 @@ zeliScanner zeliScanSdf;
 zeliScanner zeliScanSpf;
 zeliScanner zeliScanSpef;
 zeliScanner zeliScanGcf;
-
-namespace zeli {
-// Where the decimal digits at text end.
-const char *skipDigits(const char *text);
-} // namespace zeli
 
 #endif

@@ -1,8 +1,8 @@
 // The path object: a chain of chunks that hold items as bytes. An item is a kind byte below 128 and number bytes of 128
 // and above, and never straddles two chunks; identifiers and library references use pointer slots of their chunk, the
 // slot number folded into the kind.
-#ifndef ZEL_PATH_CHUNK_H
-#define ZEL_PATH_CHUNK_H
+#ifndef ZEL_PATH_ZELPATH_H
+#define ZEL_PATH_ZELPATH_H
 
 #include "core/zel.h"
 
@@ -37,11 +37,11 @@ enum Kind : std::uint8_t {
 constexpr std::size_t chunkBytes = 19;
 constexpr std::size_t chunkSlots = 8;
 
-constexpr bool isIn(std::uint8_t kind, Kind first, int count) { return kind >= first && kind < first + count; }
+constexpr bool hasSlot(std::uint8_t kind, Kind first) { return kind >= first && kind < first + chunkSlots; }
 constexpr bool isLongForm(std::uint8_t kind) { return kind < kindList ? (kind & 1) != 0 : kind == kindIndexRepeat + 1; }
-constexpr bool isForm(std::uint8_t kind, Kind shortForm) { return isIn(kind, shortForm, 2); }
+constexpr bool isForm(std::uint8_t kind, Kind shortForm) { return kind == shortForm || kind == shortForm + 1; }
 constexpr bool isConverted(std::uint8_t kind) { return kind >= kindOwnedIdent && kind < kindTextIdent; }
-constexpr bool isText(std::uint8_t kind) { return isIn(kind, kindTextIdent, chunkSlots); }
+constexpr bool isText(std::uint8_t kind) { return hasSlot(kind, kindTextIdent); }
 constexpr bool isIdent(std::uint8_t kind) { return isConverted(kind) || isText(kind); }
 constexpr bool isLib(std::uint8_t kind) { return kind >= kindLib && kind < kindEnd; }
 constexpr bool isAnyIndex(std::uint8_t kind) { return kind >= kindIndex && kind < kindGroupRepeat; }
@@ -112,8 +112,9 @@ struct zelPathRecord {
   std::uint8_t items[zeli::chunkBytes];
   zeli::Slot slots[zeli::chunkSlots];
 
-  // In the head, so that long paths cost no search: a chunk at or before the last used one, and the chunk that the walk
-  // stands on (null when it has to be looked up).
+  // So that long paths cost no search: the chunk before this one (null in the head); in the head a chunk at or before
+  // the last used one, and the chunk that the walk stands on (null when it has to be looked up).
+  zelPath previous;
   zelPath last;
   zelPath walked;
 };
@@ -180,6 +181,6 @@ zelPath zeliPathAdd(zelPath chunk, std::size_t bytesNeeded, std::size_t slotsNee
 
 // The kind of the item that ends before a position of a chunk, which *found reports; at position 0 the last item of the
 // chunk before it. kindNone when there is none.
-std::uint8_t zeliPrevItem(zelPath head, zelPath chunk, std::size_t position, zelPath *found);
+std::uint8_t zeliPrevItem(const zelPathRecord *head, zelPath chunk, std::size_t position, zelPath *found);
 
 #endif

@@ -1,10 +1,10 @@
-// What the path printers share: the text of a printing run, and one record a target language.
-#ifndef ZEL_PATH_PRINT_H
-#define ZEL_PATH_PRINT_H
+// What the path printers share: the text of a printing run, and one item printer a kind of syntax.
+#ifndef ZEL_PATH_ZELPATHPRINT_H
+#define ZEL_PATH_ZELPATHPRINT_H
 
-#include "core/handle.h"
 #include "core/text.h"
-#include "path/explode.h"
+#include "path/languages.h"
+#include "path/zelPathExplode.h"
 
 namespace zeli {
 
@@ -19,21 +19,23 @@ enum PrintState : std::uint32_t {
   stateTopOfHierarchy = 2048 // ORKA: as the top of the hierarchy
 };
 
-struct Target;
-
 // One printing run. The text has room for one item behind the longest result; a further one overwrites it, since an
 // over-long text cannot be returned any more.
 struct PrintRun {
-  const Target &target;
+  const PathLanguage &language;
   zelPath path;
-  zelHandle handle;      // where a file may redefine the separators
-  Separators separators; // in force
+  zelHandle handle;  // where a file may redefine the separators
+  Punctuation marks; // in force
   std::uint32_t state;
   bool isOutOfMemory = false;
+  bool isTransient; // nobody will ask the path for the Idents of its names
   std::size_t size = 0;
+  std::size_t numberStart = 0; // of the last number
+  std::size_t numberEnd = 0;
   char text[2 * (maxName + 1) + 64];
 
-  PrintRun(const Target &printTarget, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask);
+  PrintRun(const PathLanguage &target, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask,
+           bool isTransientPath);
 
   bool has(std::uint32_t bits) const { return (state & bits) != 0; }
   void set(std::uint32_t bits) { state |= bits; }
@@ -53,6 +55,7 @@ struct PrintRun {
   }
   void putNumber(std::int32_t number);
   void putIdent(const char *ident); // nothing for one that the target cannot write
+  void putIdent(const Ident &ident);
   void putIdentAt(Cursor cursor);
 
   // The calls of the item printer.
@@ -61,47 +64,29 @@ struct PrintRun {
   void alternative();
 };
 
-// The item printer of a target: for an item of the path, a generated index, the end of one name with another to follow,
-// and the end of the text.
+// How a language writes an item of the path, a generated index, the end of one name with another to follow, and the end
+// of the text.
 struct ItemPrinter {
   void (*item)(PrintRun &run, Cursor cursor);
   void (*value)(PrintRun &run, std::int32_t index);
   void (*alternative)(PrintRun &run);
   void (*finish)(PrintRun &run);
+  // What it never writes as it stands; what it also expands for single bits; and without repeats.
+  std::uint32_t mask;
+  std::uint32_t explodeMask;
+  std::uint32_t noRepeatMask;
 };
 
-using IdentToNameWithHandle = char *(*)(const char *ident, zelAllocFunc alloc, void *context, zelHandle handle);
-
-// How the braces of a target open and close.
-enum class Braces {
-  balanced, // a repeat brings an outer brace, which the end of its list closes
-  verilog,  // a repeat stands inside a list; what is still open is closed at the end
-  kirra     // as verilog, but the brace that closes a group is never opened
-};
-
-struct Target {
-  const ItemPrinter &printer;
-  zelIdentToNameFunc identToName = nullptr;
-  // Instead of identToName where a file may redefine the separators, with the handle for those who give none.
-  IdentToNameWithHandle identToNameWithHandle = nullptr;
-  const zelHandle *defaultHandle = nullptr;
-  // What the target never writes as it stands; what it also expands for single bits; and without repeats.
-  std::uint32_t mask = 0;
-  std::uint32_t explodeMask = 0;
-  std::uint32_t noRepeatMask = 0;
-  // For the targets with braces: the separators where they are fixed, and whether a text that began with a divider gets
-  // one in front of every name.
-  Separators separators = {};
-  bool marksLeading = false;
-  Braces braces = Braces::balanced;
-};
+extern const ItemPrinter bracePrinter; // of all but ORKA and VHDL
+extern const ItemPrinter orkaPrinter;
+extern const ItemPrinter vhdlPrinter;
 
 // What stands for an item that the target cannot write.
 constexpr Bytes unprintable = "!ERROR!";
 
-// Prints a path, or null as the public printers do.
-char *printPath(const Target &target, zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc,
-                void *context);
+// The printer of a language.
+char *printPath(const PathLanguage &language, zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc,
+                void *context, bool isTransient = false);
 
 } // namespace zeli
 

@@ -1,17 +1,28 @@
-// What all path parsers share.
-#ifndef ZEL_PATH_PARSE_H
-#define ZEL_PATH_PARSE_H
+// What all path parsers share. A grammar is one loop over the characters of the text, with a state and one switch that
+// says what a character does; what it does not name refuses the text.
+#ifndef ZEL_PATH_ZELPATHPARSE_H
+#define ZEL_PATH_ZELPATHPARSE_H
 
 #include "core/text.h"
-#include "path/chunk.h"
-#include "path/language.h"
+#include "path/languages.h"
+#include "path/zelPath.h"
 
 #include <initializer_list>
 
 namespace zeli {
 
-// An empty path that remembers its text and language; null with EINVAL for a null text, or ENOMEM.
-zelPath startPath(const char *text, const Language &language, zelHandle handle, zelAllocFunc alloc, void *context);
+Grammar parseVerilog; // also of Kirra and KirraHDL
+Grammar parseVHDL;
+Grammar parseORKA;
+Grammar parseBus; // of the file formats and Tessel
+Grammar parseSpice;
+
+// The parser of a language; null with EINVAL for a null text, or ENOMEM.
+zelPath parsePath(const PathLanguage &language, const char *text, zelHandle handle, zelAllocFunc alloc, void *context);
+
+// What a switch takes the characters for that begin a name or a number; punctuation and the end stand for themselves.
+constexpr char aName = 'a';
+constexpr char aNumber = '0';
 
 // Ends a parse that refuses its text, or could not add to the path (errno is then set): what was read so far stays.
 inline zelPath reject(zelPath path) {
@@ -23,7 +34,7 @@ inline zelPath reject(zelPath path) {
 
 // Appends the name at text, not converted yet, and moves text behind it. False when it is over-long or not legal in the
 // language, or could not be added.
-bool readName(zelPath path, const Language &language, const char *&text, Kind mark = kindNone);
+bool appendName(zelPath path, const PathLanguage &language, const char *&text, Kind mark = kindNone);
 
 // Reads decimal digits, none giving 0, and moves text behind them. A number out of the range of paths gives one that no
 // append takes, however many digits it has.

@@ -1,0 +1,89 @@
+// Sixteen bytes of a name at a time, by the compiler's vector types. All that is known of a processor stands here.
+#ifndef ZEL_CORE_BLOCK_H
+#define ZEL_CORE_BLOCK_H
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace zeli {
+
+constexpr std::size_t blockBytes = 16;
+
+using Block = unsigned char __attribute__((vector_size(blockBytes)));
+
+// All bits of a byte where a test holds, none where it fails.
+using BlockTest = signed char __attribute__((vector_size(blockBytes)));
+
+inline Block loadBlock(const char *bytes) {
+  Block block;
+  std::memcpy(&block, bytes, sizeof block);
+  return block;
+}
+
+inline std::uint64_t loadWord(const char *bytes) {
+  std::uint64_t word = 0;
+  std::memcpy(&word, bytes, sizeof word);
+  return word;
+}
+
+inline std::uint32_t loadHalf(const char *bytes) {
+  std::uint32_t half = 0;
+  std::memcpy(&half, bytes, sizeof half);
+  return half;
+}
+
+// The first eight bytes of size bytes, the first in the lowest place; zero where there are none.
+inline std::uint64_t headWord(const char *bytes, std::size_t size) {
+  if (size >= 8)
+    return loadWord(bytes);
+  if (size >= 4)
+    return loadHalf(bytes) | std::uint64_t{loadHalf(bytes + size - 4)} << (8 * (size - 4));
+  std::uint64_t head = 0;
+  if (size > 0) {
+    const auto at = [bytes](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(bytes[i])} << (8 * i); };
+    head = at(0) | at(size / 2) | at(size - 1);
+  }
+  return head;
+}
+
+// Fewer than sixteen bytes, zeros behind them. Nothing outside them is read.
+inline Block loadPart(const char *bytes, std::size_t size) {
+  // Put together in registers: a vector read from two stored words would wait for them.
+  using Words = std::uint64_t __attribute__((vector_size(blockBytes)));
+  const std::uint64_t tail = size > 8 ? loadWord(bytes + size - 8) >> (8 * (16 - size)) : 0;
+  return reinterpret_cast<Block>(Words{headWord(bytes, size), tail});
+}
+
+inline BlockTest isChar(Block block, char c) {
+  return reinterpret_cast<BlockTest>(block == static_cast<unsigned char>(c));
+}
+
+inline BlockTest isWithin(Block block, char first, char last) {
+  const auto low = static_cast<unsigned char>(first);
+  const auto width = static_cast<unsigned char>(last - first);
+  return reinterpret_cast<BlockTest>(block - low <= width);
+}
+
+// One bit a byte, the first byte's the lowest; the way for any processor.
+inline std::uint32_t portableBits(BlockTest test) {
+  std::uint64_t words[2];
+  std::memcpy(words, &test, sizeof words);
+  std::uint32_t bits = 0;
+  for (int i = 0; i < 2; ++i) // the product gathers the top bits of the eight bytes in the top byte
+    bits |= static_cast<std::uint32_t>(((words[i] >> 7 & 0x0101010101010101U) * 0x0102040810204080U) >> 56) << (8 * i);
+  return bits;
+}
+
+inline std::uint32_t bitsOf(BlockTest test) {
+#if defined(__SSE2__)
+  using Chars = char __attribute__((vector_size(blockBytes)));
+  return static_cast<std::uint32_t>(__builtin_ia32_pmovmskb128(reinterpret_cast<Chars>(test)));
+#else
+  return portableBits(test);
+#endif
+}
+
+} // namespace zeli
+
+#endif

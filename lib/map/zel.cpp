@@ -1,0 +1,64 @@
+// The mapping of names between spaces.
+#include "spaces/spaces.h"
+
+using namespace zeli;
+
+namespace {
+
+// Whether a word is a name of both spaces as it stands. In the default mapping state only, which it must not determine.
+bool isPlain(const Name &name, const Operations &from, const Operations &to) {
+  if (!name.isWord() || hasPrefix(name.head()) || zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
+    return false;
+  const bool isSensitive = from.plainWords.readAs == 'S' || (from.plainWords.readAs == '\0' && name.has(traitUpper));
+  const auto isAs = [&name](const Operations &space, std::uint8_t unless) {
+    return !name.has(unless) && (space.plainWords.isKeyword == nullptr || !space.plainWords.isKeyword(name)) &&
+           (space.currentHandle == nullptr || space.currentHandle() == nullptr);
+  };
+  return isAs(from, from.plainWords.notRead) &&
+         isAs(to, isSensitive ? to.plainWords.notWrittenSensitive : to.plainWords.notWrittenInsensitive);
+}
+
+// By way of the Ident.
+char *mapGeneral(const Name &given, const Space &from, const Space &to, zelAllocFunc alloc, void *context) {
+  Text readWork;
+  const Ident ident = from.names->read(given, {}, readWork);
+  if (to.id == SpaceId::Ident && ident.body.data() != nullptr)
+    return makeIdent(ident, alloc, context, maxName - 1); // the marker counts
+  if (!isNameLength(ident.body))
+    return makeString(refuse(), alloc, context);
+  Text writeWork;
+  Bytes spelled = to.names->write(ident, {}, writeWork);
+  if (alloc != nullptr && spelled.data() != writeWork.bytes) {
+    // An allocator may write where the name lies: a ring marks its old results.
+    writeWork.size = 0;
+    writeWork.put(spelled);
+    spelled = writeWork.view();
+  }
+  return makeString(spelled, alloc, context);
+}
+
+} // namespace
+
+char *zelMapName(const char *fromName, const char *toName, const char *name, zelAllocFunc alloc,
+                 void *context) noexcept {
+  const SpaceId fromId = recognise(fromName);
+  const SpaceId toId = recognise(toName);
+  if (fromId == SpaceId::none || toId == SpaceId::none)
+    return nullptr;
+  const Space &from = spaceOf(fromId);
+  const Space &to = spaceOf(toId);
+  if (fromId == SpaceId::Ident)
+    return to.descriptor.identToName(name, alloc, context);
+
+  const Name given(nameBytes(name));
+  if (alloc == nullptr && toId != SpaceId::Ident && isNameLength(given) && isPlain(given, *from.names, *to.names))
+    return makeString(given, alloc, context);
+  return mapGeneral(given, from, to, alloc, context);
+}
+char *zelMapper(zelNameToIdentFunc nameToIdent, zelIdentToNameFunc identToName, const char *name, zelAllocFunc alloc,
+                void *context) noexcept {
+  if (nameToIdent == nullptr || identToName == nullptr)
+    return nullptr;
+  char ident[maxName + 2];
+  return identToName(nameToIdent(name, nullptr, ident), alloc, context);
+}

@@ -1,0 +1,75 @@
+// The Ident space: the canonical form itself.
+#include "spaces/spaces.h"
+
+using namespace zeli;
+
+namespace {
+
+// As strcmp, each body folded first where asked.
+int compareBodies(const char *a, bool foldA, const char *b, bool foldB) {
+  for (;; ++a, ++b) {
+    const auto left = static_cast<unsigned char>(foldA ? toLower(*a) : *a);
+    const auto right = static_cast<unsigned char>(foldB ? toLower(*b) : *b);
+    if (left != right || left == '\0')
+      return left - right;
+  }
+}
+
+bool isMarker(char c) { return c == 'S' || c == 'I' || c == 'F'; }
+
+struct IdentRules {
+  // Never: the marker tells.
+  static constexpr PlainWords plainWords() { return {traitOther, traitOther, traitOther, 'S'}; }
+
+  bool isLegal(const Name &name) const { return name.size() > 1 && isMarker(name[0]); }
+
+  Ident read(const Name &name, const Setting &, Text &) const {
+    return isLegal(name) ? Ident{name[0], Name(from(name, 1))} : refuseIdent();
+  }
+
+  Bytes write(const Ident &ident, const Setting &, Text &work) const {
+    work.put(ident.marker);
+    work.put(ident.body);
+    return work.view();
+  }
+};
+
+constexpr IdentRules rules;
+
+} // namespace
+
+const Operations zeli::identNames = operationsOf<rules>;
+
+int zelIsLegalIdent(const char *ident) noexcept {
+  return ident != nullptr && isMarker(*ident) && ident[1] != '\0' ? 1 : 0;
+}
+
+char *zelIdentToIdent(const char *ident, zelAllocFunc alloc, void *context) noexcept {
+  return zelNewString(ident, alloc, context);
+}
+
+int zelIdentCmp(const char *a, const char *b) noexcept {
+  if (zelIsLegalIdent(a) == 0 || zelIsLegalIdent(b) == 0)
+    return 0;
+  bool foldA = *a == 'I';
+  bool foldB = *b == 'I';
+  if (foldA != foldB && mapStateOfProcess() == ZEL_MAP_MATCH)
+    foldA = foldB = true;
+  if (foldA == foldB) {
+    const int order = std::strcmp(a + 1, b + 1);
+    if (order == 0 || !foldA)
+      return order;
+  }
+  return compareBodies(a + 1, foldA, b + 1, foldB);
+}
+
+std::uint32_t zelIdentHash(const char *ident) noexcept {
+  if (ident == nullptr || *ident == '\0')
+    return 0;
+  // The ELF hash in 28 bits; the OR folds case. What flows over the 28 bits stays where it is until the next step,
+  // whose shift takes it out again.
+  std::uint32_t hash = 0;
+  for (const char *c = ident + 1; *c != '\0'; ++c)
+    hash = ((hash << 4) ^ (hash >> 20 & 0xF00U)) + (static_cast<unsigned char>(*c) | 0x20U);
+  return (hash ^ (hash >> 24 & 0xF0U)) & 0x0FFFFFFFU;
+}

@@ -1,0 +1,169 @@
+// The table of all spaces, and the lookup in it.
+#include "spaces/spaces.h"
+
+#include <iterator>
+
+using namespace zeli;
+
+namespace {
+
+// Who is offered the name of a space: the lists of zelGetSpaceNames and zelGetAllSpaceNames.
+enum Audience { nobody, engineers, everybody };
+
+struct Listed {
+  const char *name;
+  Audience audience;
+};
+
+#define ZEL_LISTED_SPACE(number, pointer, functions, lookup, display, names, audience) {lookup, audience},
+#define ZEL_LISTED_ALIAS(lookup, audience) {lookup, audience},
+constexpr Listed listed[] = {ZEL_SPACES(ZEL_LISTED_SPACE, ZEL_LISTED_ALIAS)};
+
+// The names of those listed from an audience on, ended by null.
+template <Audience least> struct Names {
+  const char *list[std::size(listed) + 1] = {};
+
+  constexpr Names() {
+    const char **next = list;
+    for (const Listed &space : listed)
+      if (space.audience >= least)
+        *next++ = space.name;
+  }
+};
+constexpr Names<everybody> spaceNames;
+constexpr Names<engineers> allSpaceNames;
+
+SpaceId vhdlFamily(char fifth) {
+  switch (fifth) {
+  case '\0':
+    return SpaceId::VHDL;
+  case '8':
+    return SpaceId::VHDL87;
+  case 'A':
+    return SpaceId::VHDLAMS;
+  default:
+    return SpaceId::none;
+  }
+}
+
+SpaceId verilogFamily(char eighth, char ninth) {
+  if (eighth == '\0')
+    return SpaceId::Verilog;
+  return eighth == 'A' && ninth == '\0' ? SpaceId::VerilogA : SpaceId::VerilogAMS;
+}
+
+} // namespace
+
+SpaceId zeli::recognise(const char *spaceName) {
+  if (spaceName == nullptr)
+    return SpaceId::none;
+  // A position behind the end of the name reads as NUL. The names are so short that a length costs more than it saves.
+  const auto at = [spaceName](int position) {
+    for (int i = 1; i < position; ++i)
+      if (spaceName[i] == '\0')
+        return '\0';
+    return spaceName[position];
+  };
+
+  switch (*spaceName) {
+  case '4':
+    return SpaceId::ORKA44;
+  case 'A':
+    return SpaceId::Ascii;
+  case 'D':
+    return SpaceId::Def;
+  case 'E':
+    if (at(1) == 's')
+      return SpaceId::EscORKA;
+    return at(4) == '\0' ? SpaceId::none : at(4) == '2' ? SpaceId::Edif200 : SpaceId::Edif300;
+  case 'F':
+    if (at(1) == 'i')
+      return SpaceId::LibraryUnix;
+    return at(4) == 'T' ? SpaceId::FlatTessel : SpaceId::none;
+  case 'G':
+    return at(1) == 'c' ? SpaceId::Gcf : SpaceId::none;
+  case 'I':
+    return SpaceId::Ident;
+  case 'K':
+    return at(5) == '\0' ? SpaceId::Kirra : at(5) == 'H' ? SpaceId::KirraHDL : SpaceId::none;
+  case 'L':
+    if (at(3) == '\0')
+      return SpaceId::Lef;
+    if (at(7) == '\0' || at(7) == 'U')
+      return SpaceId::LibraryUnix;
+    return at(7) == 'N' ? SpaceId::LibraryNT : SpaceId::none;
+  case 'N':
+    return SpaceId::NVerilog;
+  case 'O':
+    return SpaceId::ORKA;
+  case 'P':
+    return SpaceId::Print;
+  case 'S':
+    if (at(2) != '\0' && at(3) == '\0' && (at(1) == 'd' || at(1) == 'p'))
+      return at(1) == 'd' ? SpaceId::Sdf : SpaceId::Spf;
+    if (at(2) == 'i')
+      return SpaceId::Spice;
+    return at(3) != '\0' && at(4) == '\0' ? SpaceId::Spef : SpaceId::none;
+  case 'T':
+    return SpaceId::Tessel;
+  case 'V':
+    return at(1) == 'H' ? vhdlFamily(at(4)) : at(2) == 'l' ? SpaceId::Vellum : verilogFamily(at(7), at(8));
+  default:
+    return SpaceId::none;
+  }
+}
+
+// --- What the table becomes -----------------------------------------------------------------------------------------
+
+#define ZEL_SPACE_ROW(number, pointer, functions, lookup, display, names, audience)                                    \
+  {SpaceId::number, lookup, {display, zel##functions##ToIdent, zelIdentTo##functions, zelIsLegal##functions}, &(names)},
+constexpr Space zeli::spaces[] = {ZEL_SPACES(ZEL_SPACE_ROW, ZEL_NO_ALIAS)};
+
+#define ZEL_SPACE_POINTER(number, pointer, functions, lookup, display, names, audience)                                \
+  const zelSpace zel##pointer##Space = &spaceOf(SpaceId::number).descriptor;
+ZEL_SPACES(ZEL_SPACE_POINTER, ZEL_NO_ALIAS)
+const zelSpace zelLibrarySpace = zelLibraryUnixSpace;
+const zelSpace zelFilesysSpace = zelLibraryUnixSpace;
+
+const char *const *zelGetSpaceNames() noexcept { return spaceNames.list; }
+
+const char *const *zelGetAllSpaceNames() noexcept { return allSpaceNames.list; }
+
+zelSpace zelGetSpaceByName(const char *name) noexcept {
+  const SpaceId id = recognise(name);
+  return id == SpaceId::none ? nullptr : &spaceOf(id).descriptor;
+}
+
+zelNameToIdentFunc zelGetNameToIdentFunc(const char *spaceName) noexcept {
+  const zelSpace space = zelGetSpaceByName(spaceName);
+  return space == nullptr ? nullptr : space->nameToIdent;
+}
+
+zelIdentToNameFunc zelGetIdentToNameFunc(const char *spaceName) noexcept {
+  const zelSpace space = zelGetSpaceByName(spaceName);
+  return space == nullptr ? nullptr : space->identToName;
+}
+
+zelIsLegalFunc zelGetIsLegalFunc(const char *spaceName) noexcept {
+  const zelSpace space = zelGetSpaceByName(spaceName);
+  return space == nullptr ? nullptr : space->isLegal;
+}
+
+int zelGetAllFuncs(const char *spaceName, zelIsLegalFunc *isLegal, zelNameToIdentFunc *nameToIdent,
+                   zelIdentToNameFunc *identToName) noexcept {
+  const zelSpace space = zelGetSpaceByName(spaceName);
+  if (space == nullptr)
+    return 1;
+  if (isLegal != nullptr)
+    *isLegal = space->isLegal;
+  if (nameToIdent != nullptr)
+    *nameToIdent = space->nameToIdent;
+  if (identToName != nullptr)
+    *identToName = space->identToName;
+  return 0;
+}
+
+int zelIsLegalName(const char *spaceName, const char *name) noexcept {
+  const zelSpace space = zelGetSpaceByName(spaceName);
+  return space == nullptr ? 0 : space->isLegal(name);
+}
