@@ -771,6 +771,144 @@ ZEL_API char *zelPathToKirraHDL(zelPath path, zelHandle handle, int32_t flags) Z
 ZEL_API char *zelPathToKirraHDLEx(zelPath path, zelHandle handle, int32_t flags, zelAllocFunc alloc,
                                   void *context) ZEL_NOEXCEPT;
 
+/* ---------------------------------------------------------------------------------------------------------------
+ * Mappings: names or paths of one space in another, by a record that is made once
+ */
+
+/* Why a name, a path or an option is refused. */
+enum {
+  ZEL_REASON_NONE = 0,
+  ZEL_REASON_EMPTY,                   /* no name, or a level without one */
+  ZEL_REASON_TOO_LONG,                /* a name of more than ZEL_MAX_NAME characters */
+  ZEL_REASON_ILLEGAL_CHARACTER,       /* no character of a name of the space */
+  ZEL_REASON_ILLEGAL_FIRST_CHARACTER, /* one that does not begin a name */
+  ZEL_REASON_RESERVED_WORD,
+  ZEL_REASON_NO_WHITE_SPACE,      /* behind an escaped identifier (IEEE 1364, 3.7.1) */
+  ZEL_REASON_UNTERMINATED_ESCAPE, /* an extended identifier, a quote or a backslash that nothing ends */
+  ZEL_REASON_NUMBER_OUT_OF_RANGE, /* see ZEL_MIN_NUMBER and ZEL_MAX_NUMBER */
+  ZEL_REASON_UNEXPECTED_CHARACTER,
+  ZEL_REASON_UNEXPECTED_END,
+  ZEL_REASON_UNBALANCED_BRACKET,
+  ZEL_REASON_UNBALANCED_BRACE,
+  ZEL_REASON_SECOND_PIN_DELIMITER, /* or a divider behind one */
+  ZEL_REASON_NO_ELEMENT_LETTER,    /* on the level of an instance in SPICE */
+  ZEL_REASON_NOT_CONVERTED,        /* a level that gives no Ident */
+  ZEL_REASON_NOT_WRITABLE,         /* an item that the target has no text for */
+  ZEL_REASON_RESULT_TOO_LONG,      /* more than ZEL_MAX_NAME characters */
+  ZEL_REASON_NO_MEMORY,
+  ZEL_REASON_BAD_ARGUMENT, /* a null text or mapping */
+  ZEL_REASON_COUNT
+};
+
+/* One line of English for a reason, without a full stop; constant. "" for ZEL_REASON_NONE and any other number. */
+ZEL_API const char *zelReasonText(int32_t reason) ZEL_NOEXCEPT;
+
+/* What is refused, and the place: bytes from 0. */
+typedef struct zelRefusal {
+  int32_t reason;
+  uint32_t position;
+} zelRefusal;
+
+/* What the last level of a path stands for. Only in SPEF and DSPF has a pin a delimiter of its own, and in SPICE an
+ * instance an element letter; a name behind a pin delimiter that was read is a pin, whatever the kind. */
+enum { ZEL_KIND_NET = 0, ZEL_KIND_PORT = 1, ZEL_KIND_INSTANCE = 2, ZEL_KIND_PIN = 3 };
+
+/* Which levels carry the element letter in SPICE: every level of an instance and all but the last of anything else; or,
+ * as in extracted flat netlists, only the last level of an instance. */
+enum { ZEL_LEVELS_ALL = 0, ZEL_LEVELS_LAST = 1 };
+
+/* Of zelMappingOptions: the state of the process at the time of each call, and with it the environment. */
+#define ZEL_MAP_PROCESS (-1)
+
+/* The separators of one side; NUL keeps the default. Formats whose files may redefine them (SDF, SPF, SPEF, GCF, LEF,
+ * DEF) and Spice take them; SPEF and SPF have the pin delimiter ':' by default. */
+typedef struct zelMappingSeparators {
+  char pinDelimiter;
+  char divider;
+  char busOpen;
+  char busClose;
+} zelMappingSeparators;
+
+/* How a mapping is made. Fill with zeros, set size to sizeof(zelMappingOptions), then what is wanted. */
+typedef struct zelMappingOptions {
+  uint32_t size;
+  const char *from; /* the spaces: a name of zelGetAllSpaceNames or "Ident" in any case, or one people use ("DSPF") */
+  const char *to;
+  zelMappingSeparators fromSeparators;
+  zelMappingSeparators toSeparators;
+  int32_t isNames;      /* non-zero: single names; otherwise paths where both spaces have them */
+  int32_t kind;         /* ZEL_KIND_ */
+  uint32_t printFlags;  /* ZEL_PRINT_ */
+  char element;         /* the element letter of instances in SPICE, as it is to be written; NUL for none */
+  int32_t levels;       /* ZEL_LEVELS_ */
+  int32_t mapState;     /* ZEL_MAP_VHDL to ZEL_MAP_MATCH, ZEL_MAP_PROCESS, or 0 for ZEL_MAP_DEFAULT */
+  const char *keywords; /* null, or a revision whose words are reserved in the target beside its own: "1364-2001",
+                           "1364-2005", "1800-2017" (Verilog), "1076-2008" (VHDL) */
+  int32_t isLenient;    /* non-zero: answers exactly as zelMapName and zelPathMapperEx, which leave out what does not
+                           convert */
+} zelMappingOptions;
+
+/* A mapping: constant once it is made, and free to be shared by threads. */
+typedef const struct zelMappingRecord *zelMapping;
+
+/* A new mapping, to be released with zelFreeMapping; the strings of the options are not kept. Null, and the message
+ * (NUL-terminated, cut at messageSize; may be null) names the option that is wrong, with EINVAL; or ENOMEM. */
+ZEL_API zelMapping zelCreateMapping(const zelMappingOptions *options, char *message, uint64_t messageSize) ZEL_NOEXCEPT;
+
+/* Releases a mapping; ignores null. */
+ZEL_API void zelFreeMapping(zelMapping mapping) ZEL_NOEXCEPT;
+
+/* The text in the target space, under the allocator convention; null with EINVAL for what is refused (zelDiagnose says
+ * why) or ENOMEM. Nothing is left out unless the mapping is lenient. */
+ZEL_API char *zelMappingApply(zelMapping mapping, const char *text, zelAllocFunc alloc, void *context) ZEL_NOEXCEPT;
+
+/* Why the mapping refuses a text, and where; ZEL_REASON_NONE and 0 when it does not. Returns the reason; refusal may be
+ * null. */
+ZEL_API int32_t zelDiagnose(zelMapping mapping, const char *text, zelRefusal *refusal) ZEL_NOEXCEPT;
+
+/* How a result compares with the text that it was made of, when it is read back as the mapping wrote it. */
+enum {
+  ZEL_CHECK_SAME = 0,
+  ZEL_CHECK_CASE_LOST = 1, /* the same but for capitals */
+  ZEL_CHECK_OTHER = 2,     /* another object */
+  ZEL_CHECK_UNREADABLE = 3 /* the target space refuses it */
+};
+ZEL_API int32_t zelMappingCheck(zelMapping mapping, const char *text, const char *result) ZEL_NOEXCEPT;
+
+/* One canonical text of a name or path of the mapping's source, under the allocator convention: equal exactly when
+ * zelIdentCmp in the default mapping state calls the objects equal, level by level, with the same indexes. For joins,
+ * indexes and tables; it may hold any byte but NUL. Null as zelMappingApply. */
+ZEL_API char *zelMappingKey(zelMapping mapping, const char *text, zelAllocFunc alloc, void *context) ZEL_NOEXCEPT;
+
+/* A column of texts in the layout of Arrow's string columns: text i lies in bytes from offset i up to offset i + 1. */
+typedef struct zelColumn {
+  uint32_t size;       /* of this struct */
+  uint32_t offsetBits; /* 32 or 64 */
+  uint64_t count;      /* of texts */
+  const void *offsets; /* count + 1, from wherever the column begins */
+  const char *bytes;
+  const uint8_t *validity; /* a bit a text from the lowest of the first byte on, 0 for null; or null: all are valid */
+} zelColumn;
+
+/* What zelMapColumn makes of it: the same layout, from offset 0 on. */
+typedef struct zelColumnResult {
+  uint32_t size;    /* of this struct */
+  void *offsets;    /* count + 1 of the input's offsetBits, the caller's */
+  uint8_t *reasons; /* count, or null: ZEL_REASON_ of each text, whose result is empty unless it is ZEL_REASON_NONE; a
+                       null text has ZEL_REASON_NONE */
+  uint32_t *positions; /* count, or null: of the refused texts */
+  uint64_t refused;    /* how many */
+  char *bytes;         /* the results, grown by grow as they need; at first a block of capacity bytes or null */
+  uint64_t capacity;
+  uint64_t length;                                          /* of the results in all */
+  void *(*grow)(void *block, uint64_t size, void *context); /* as realloc; null stands for realloc itself */
+  void *context;
+} zelColumnResult;
+
+/* Maps a column in one call, without allocation a text. 0 for success, refused texts or none; ENOMEM when grow fails,
+ * EOVERFLOW when the results do not fit 32-bit offsets, EINVAL for a null argument. */
+ZEL_API int zelMapColumn(zelMapping mapping, const zelColumn *column, zelColumnResult *result) ZEL_NOEXCEPT;
+
 #ifdef __cplusplus
 }
 #endif

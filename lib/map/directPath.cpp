@@ -13,12 +13,12 @@ struct WordScan {
   std::uint32_t others[DirectPath::longest / blockBytes + 1]; // a block each
   std::uint8_t traits;
 
-  // The text goes on with zeros to the end of its last block.
+  // The text goes on with zeros, to the end of the block behind its last byte.
   WordScan(const char *text, std::size_t size) {
     BlockTest capital = {};
     std::uint32_t pairs = 0;
     std::uint32_t carried = 0; // the last underscore of the block before
-    for (std::size_t i = 0; i * blockBytes < size; ++i) {
+    for (std::size_t i = 0; i * blockBytes <= size; ++i) {
       const Block block = loadBlock(text + i * blockBytes);
       const BlockTest isUpper = isWithin(block, 'A', 'Z');
       const BlockTest underscore = isChar(block, '_');
