@@ -39,7 +39,7 @@ std::string inMarksOf(const std::string &language, const std::string &path) {
                                                            {"Gcf", ".<>"},      {"Tessel", "|[]"}};
   const std::size_t end = std::min(language.find('('), language.size());
   const std::string name = language.substr(0, end);
-  std::string own = marks.count(name) != 0 ? marks.at(name) : "/[]";
+  std::string own = marks.contains(name) ? marks.at(name) : "/[]";
   if (end != language.size())
     for (std::size_t i = 0; i < own.size() && end + i + 2 < language.size(); ++i)
       own[i] = language[end + i + 1];
@@ -81,6 +81,7 @@ std::vector<std::string> pathsOfEveryHabit() {
 // Also where a path is mapped from text to text, without a path object.
 TEST(PathMapper, ParsesAndPrints) {
   std::vector<std::pair<std::string, PathSpace>> languages;
+  languages.reserve(separatedLanguages.size());
   for (const std::string &language : separatedLanguages)
     languages.emplace_back(language, spaceAt(language));
   const std::vector<std::string> paths = pathsOfEveryHabit();

@@ -25,11 +25,7 @@ inline std::vector<std::string> namesOfEveryHabit() {
 
 // Calls visit in the mapping states and VHDL modes between which shortcuts may differ.
 template <typename Visit> void inEverySetting(Visit visit) {
-  for (const auto &[state, mode] : {std::pair(ZEL_MAP_DEFAULT, 2),
-                                    {ZEL_MAP_DEFAULT, 0},
-                                    {ZEL_MAP_MATCH, 2},
-                                    {ZEL_MAP_VHDL, 2},
-                                    {ZEL_MAP_TANDEM, 2}}) {
+  for (const auto &[state, mode] : {std::pair(ZEL_MAP_DEFAULT, 2), {ZEL_MAP_DEFAULT, 0}, {ZEL_MAP_VHDL, 2}}) {
     const MapState mapState(state);
     const VHDLMode vhdlMode(mode);
     SCOPED_TRACE("state " + std::to_string(state) + ", VHDL mode " + std::to_string(mode));
