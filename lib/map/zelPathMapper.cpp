@@ -1,5 +1,5 @@
 // The mapping of paths between languages.
-#include "map/directPath.h"
+#include "map/levelPath.h"
 #include "path/zelPathParse.h"
 #include "path/zelPathPrint.h"
 
@@ -48,9 +48,11 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
   if (from == nullptr || to == nullptr)
     return nullptr;
   if (text != nullptr) {
-    DirectPath direct;
-    if (const Bytes result = direct.map(text, from, to, flags); result.data() != nullptr)
-      return makeString(result, alloc, context);
+    Route route;
+    LevelPath levels;
+    if (routeOf(from, to, flags, route))
+      if (const Bytes result = levels.map({text, strnlen(text, LevelPath::longest + 1)}, route); result.data() != nullptr)
+        return makeString(result, alloc, context);
   }
   Arena arena;
   const zelPath path = parsePath(*from->language, text, from, Arena::allocate, &arena);

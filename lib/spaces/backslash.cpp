@@ -16,6 +16,18 @@ bool BackslashRules::isLegal(const Name &name) const {
   return isNameLength(name) && (isWord(name) || holdsOnly(plain, name, 0, name.size()));
 }
 
+zelRefusal BackslashRules::explain(const Name &name) const {
+  return explainLength(name, [&]() -> zelRefusal {
+    std::size_t i = 0;
+    while (i < name.size() && (plain.has(name[i]) || quotes(name, i)))
+      i += quotes(name, i) ? 2 : 1;
+    if (i >= name.size())
+      return {ZEL_REASON_NOT_CONVERTED, 0};
+    const bool isOpen = name[i] == '\\' && i + 1 == name.size();
+    return {isOpen ? ZEL_REASON_UNTERMINATED_ESCAPE : ZEL_REASON_ILLEGAL_CHARACTER, static_cast<std::uint32_t>(i)};
+  });
+}
+
 Bytes BackslashRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const bool folds = foldsCase(ident, setting);
   if (takesWords)

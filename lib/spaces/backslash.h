@@ -38,6 +38,7 @@ struct BackslashRules {
   bool isWord(const Name &name) const { return takesWords && name.isWord(); }
 
   bool isLegal(const Name &name) const;
+  zelRefusal explain(const Name &name) const;
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
   Ident read(const Name &name, const Setting &setting, Text &work) const;
 

@@ -22,15 +22,35 @@ bool EscapedIdentifierRules::isLegal(const Name &name) const {
   return isNormal(name);
 }
 
+zelRefusal EscapedIdentifierRules::explain(const Name &name) const {
+  return explainLength(name, [&]() -> zelRefusal {
+    if (name[0] == '\\' && !isEscaped(name))
+      return {ZEL_REASON_NO_WHITE_SPACE, static_cast<std::uint32_t>(name.size())};
+    if (name[0] == '\\') {
+      const zelRefusal inside = explainFirst(Name(content(name)), 0, escape.literal);
+      return {inside.reason, inside.position + 1};
+    }
+    if (!first.has(name[0]))
+      return {ZEL_REASON_ILLEGAL_FIRST_CHARACTER, 0};
+    return isKeyword(name) ? zelRefusal{ZEL_REASON_RESERVED_WORD, 0} : explainFirst(name, 1, normal);
+  });
+}
+
 Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const bool folds = foldsCase(ident, setting) && ident.body.has(traitUpper);
+  const auto isReserved = [&setting](const Name &word) {
+    return setting.isReserved != nullptr && setting.isReserved(word);
+  };
   if (isNormal(ident.body)) {
-    if (!folds)
+    if (!folds && !isReserved(ident.body))
       return ident.body;
-    copyLowered(work, ident.body);
-    if (!isKeyword(Name(work.view())))
-      return work.view();
-    work.size = 0;
+    if (folds) {
+      copyLowered(work, ident.body);
+      const Name lowered(work.view());
+      if (!isKeyword(lowered) && !isReserved(lowered))
+        return lowered;
+      work.size = 0;
+    }
   }
 
   work.put('\\');

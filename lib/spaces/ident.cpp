@@ -23,6 +23,10 @@ struct IdentRules {
 
   bool isLegal(const Name &name) const { return name.size() > 1 && isMarker(name[0]); }
 
+  zelRefusal explain(const Name &name) const {
+    return {name.empty() || isMarker(name[0]) ? ZEL_REASON_EMPTY : ZEL_REASON_ILLEGAL_FIRST_CHARACTER, 0};
+  }
+
   Ident read(const Name &name, const Setting &, Text &) const {
     return isLegal(name) ? Ident{name[0], Name(from(name, 1))} : refuseIdent();
   }

@@ -101,6 +101,10 @@ struct KirraRules : BackslashRules {
     return (first.has(name[0]) || quotes(name, 0)) && (name.isWord() || holdsOnly(plain, name, 0, name.size()));
   }
 
+  zelRefusal explain(const Name &name) const {
+    return isKeyword(name) ? zelRefusal{ZEL_REASON_RESERVED_WORD, 0} : BackslashRules::explain(name);
+  }
+
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
     const Name &body = ident.body;
     const char initial = body[0];

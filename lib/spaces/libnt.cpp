@@ -53,6 +53,10 @@ struct LibraryNTRules : ClassEscapeRules {
     return true;
   }
 
+  zelRefusal explain(const Name &name) const {
+    return isReserved(name) ? zelRefusal{ZEL_REASON_RESERVED_WORD, 0} : ClassEscapeRules::explain(name);
+  }
+
   // A case-insensitive name keeps its capitals; they do not matter to the file system.
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
     const Name &body = ident.body;
