@@ -156,10 +156,10 @@ bool LevelPath::mapBus(const Route &route, std::size_t open, const Bus &bus) {
   const auto first = static_cast<long>(bus.first);
   const auto last = static_cast<long>(bus.last);
   const char *const join = !isDirected ? ":" : first > last ? " downto " : " to ";
-  const int length = bus.isRange
-                         ? std::snprintf(printed, sizeof printed, "%c%ld%s%ld%c", marks.busOpen, first, join, last,
-                                         marks.busClose)
-                         : std::snprintf(printed, sizeof printed, "%c%ld%c", marks.busOpen, first, marks.busClose);
+  const int length =
+      bus.isRange
+          ? std::snprintf(printed, sizeof printed, "%c%ld%s%ld%c", marks.busOpen, first, join, last, marks.busClose)
+          : std::snprintf(printed, sizeof printed, "%c%ld%c", marks.busOpen, first, marks.busClose);
   if (!flush(open) || !put({printed, static_cast<std::size_t>(length)}))
     return false;
   copied = bus.end;

@@ -12,10 +12,10 @@ struct Side {
   const Operations *names = nullptr;
   Setting setting;
   Punctuation marks;
-  char pinDelimiter = '\0';                   // where pins have one of their own
-  char element = '\0';                        // the letter in front of instances
-  const BackslashRules *ownNames = nullptr;   // in place of names, where a mapping makes rules for itself
-  bool takesWords = true;                     // a word is a name as PlainWords says
+  char pinDelimiter = '\0';                 // where pins have one of their own
+  char element = '\0';                      // the letter in front of instances
+  const BackslashRules *ownNames = nullptr; // in place of names, where a mapping makes rules for itself
+  bool takesWords = true;                   // a word is a name as PlainWords says
 
   Ident read(const Name &name, Text &work) const {
     return ownNames != nullptr ? ownNames->read(name, setting, work) : names->read(name, setting, work);

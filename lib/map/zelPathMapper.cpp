@@ -25,7 +25,8 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
     Route route;
     LevelPath levels;
     if (routeOf(from, to, flags, route))
-      if (const Bytes result = levels.map({text, strnlen(text, LevelPath::longest + 1)}, route); result.data() != nullptr)
+      if (const Bytes result = levels.map({text, strnlen(text, LevelPath::longest + 1)}, route);
+          result.data() != nullptr)
         return makeString(result, alloc, context);
   }
   const PathLanguage &source = *from->language;

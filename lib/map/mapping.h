@@ -1,0 +1,45 @@
+// A mapping: both directions of reading between two spaces, prepared once.
+#ifndef ZEL_MAP_MAPPING_H
+#define ZEL_MAP_MAPPING_H
+
+#include "map/route.h"
+
+namespace zeli {
+
+// The separators that a mapping chose for one side, and what names are under them.
+struct ChosenSeparators {
+  zelHandleRecord handle;
+  ByteSet pathNameBytes;
+  BackslashRules rules;
+};
+
+} // namespace zeli
+
+struct zelMappingRecord {
+  bool isNames;
+  bool isLenient;
+  zeli::Route route;
+
+  // The keys of texts of either side, which tell equal objects.
+  zeli::Route sourceKey;
+  zeli::Route resultKey;
+
+  // By handles, for what only the path object can do, and for lenient mappings.
+  const zeli::PathLanguage *printing;
+  zelHandle fromHandle;
+  zelHandle toHandle;
+
+  zeli::ChosenSeparators *chosen[2]; // null where the side keeps its own
+};
+
+namespace zeli {
+
+// What a text is mapped in. The result lies in it, or in the text.
+struct MappingWork;
+
+// Maps a text, which a NUL ends, by one of the routes of a mapping; without data where it is refused.
+Bytes mapText(const zelMappingRecord &mapping, const Route &route, Bytes text, MappingWork &work, zelRefusal &refusal);
+
+} // namespace zeli
+
+#endif
