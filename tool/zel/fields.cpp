@@ -62,7 +62,8 @@ Line lineAt(std::string_view bytes, std::size_t begin, const LineFormat &format,
   const auto *found = static_cast<const char *>(std::memchr(start, format.end, bytes.size() - begin));
   const std::size_t lineEnd = found != nullptr ? static_cast<std::size_t>(found - bytes.data()) : bytes.size();
   const std::size_t next = found != nullptr ? lineEnd + 1 : lineEnd;
-  const std::size_t end = lineEnd > begin && bytes[lineEnd - 1] == '\r' ? lineEnd - 1 : lineEnd;
+  const bool hasReturn = format.end == '\n' && lineEnd > begin && bytes[lineEnd - 1] == '\r';
+  const std::size_t end = hasReturn ? lineEnd - 1 : lineEnd;
   Line line = {begin, end, next, begin, end, true, false, false};
   if (field == 0)
     return line;

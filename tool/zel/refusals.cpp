@@ -55,13 +55,11 @@ const char *reasonText(std::int32_t reason) {
 
 void Refusals::clear() {
   first.clear();
-  counts.fill(0);
   count = 0;
 }
 
 void Refusals::add(std::uint64_t lineNumber, std::string_view line, std::size_t position, std::int32_t reason) {
   ++count;
-  ++counts.at(static_cast<std::size_t>(reason));
   if (first.size() == shown)
     return;
   std::size_t caret = 0;

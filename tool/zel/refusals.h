@@ -4,7 +4,6 @@
 
 #include "zel.h"
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -19,8 +18,7 @@ enum : std::int32_t {
   reasonOtherObject,
   reasonUnreadable,
   reasonRevisionWord, // reserved in the revision that was asked for
-  reasonNotLegal,
-  reasonCount
+  reasonNotLegal
 };
 const char *reasonText(std::int32_t reason);
 
@@ -32,12 +30,11 @@ struct Refusal {
   std::size_t caret;
 };
 
-// The refusals of some lines: the first few, and how many for what.
+// The refusals of some lines: the first few, and how many.
 struct Refusals {
   static constexpr std::size_t shown = 10;
 
   std::vector<Refusal> first;
-  std::array<std::uint64_t, reasonCount> counts{};
   std::uint64_t count = 0;
 
   void clear();
