@@ -68,8 +68,8 @@ Line lineAt(std::string_view bytes, std::size_t begin, const LineFormat &format,
   if (field == 0)
     return line;
   for (std::uint32_t number = 1;; ++number) {
-    const auto *stop = static_cast<const char *>(
-        std::memchr(bytes.data() + line.textBegin, format.delimiter, end - line.textBegin));
+    const auto *stop =
+        static_cast<const char *>(std::memchr(bytes.data() + line.textBegin, format.delimiter, end - line.textBegin));
     line.textEnd = stop != nullptr ? static_cast<std::size_t>(stop - bytes.data()) : end;
     if (number == field)
       return line;
@@ -122,6 +122,23 @@ std::uint32_t columnCalled(std::string_view name, std::string_view bytes, const 
     if ((line.isDoubled ? unquoted(text) : std::string(text)) == name)
       return number;
   }
+}
+
+Header::Header(const LineSettings &settings, const LineFormat &lineFormat)
+    : format(lineFormat), name(settings.field), field(fieldNumber(settings.field)),
+      isNamed(field == 0 && !name.empty()) {}
+
+bool Header::operator()(Block &block) {
+  block.headerSize = 0;
+  if (isNamed && block.beginsFile) {
+    const Line header = lineAt(block.text(), 0, format, 1);
+    field = columnCalled(name, block.text(), header, format);
+    block.headerSize = header.next;
+    if (field == 0)
+      throw Complaint{statusUsage, std::string(block.file) + ": no column is called '" + name + "'"};
+  }
+  block.field = field;
+  return true;
 }
 
 } // namespace tool

@@ -3,6 +3,7 @@
 #define ZEL_TOOL_FIELDS_H
 
 #include "lines.h"
+#include "settings.h"
 
 namespace tool {
 
@@ -32,6 +33,21 @@ bool needsQuotes(std::string_view text, char delimiter);
 
 // The number of a column in a header line, from 1, or 0.
 std::uint32_t columnCalled(std::string_view name, std::string_view bytes, const Line &header, const LineFormat &format);
+
+// Which field of a block is meant: a number, or the column that the first line of the block's file calls so.
+class Header {
+public:
+  Header(const LineSettings &settings, const LineFormat &lineFormat);
+
+  // Throws a Complaint when there is no such column.
+  bool operator()(Block &block);
+
+private:
+  LineFormat format;
+  std::string name;
+  std::uint32_t field;
+  bool isNamed;
+};
 
 } // namespace tool
 

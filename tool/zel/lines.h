@@ -25,8 +25,8 @@ struct Block {
   Output output;
   std::uint64_t names = 0;
   Refusals refusals;
-  bool isStopped = false;  // what follows is not to be written
-  bool hasFailed = false;  // for lack of memory
+  bool isStopped = false; // what follows is not to be written
+  bool hasFailed = false; // for lack of memory
   bool isDone = false;
 
   std::string_view text() const { return {input.data(), size}; }

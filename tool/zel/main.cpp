@@ -92,7 +92,8 @@ int run(int argc, char **argv) {
   map.add_flag("--norepeat", mapping.isUnrepeated, "Write no repeat notation");
   map.add_flag("--top", mapping.isTop, "Write paths as the top of the hierarchy");
   map.add_flag("--lenient", mapping.isLenient, "Leave out what does not convert, as zelPathMapperEx");
-  addChoice(map, "--on-error", lines.onError, onErrors, "empty|keep|skip|stop", "What becomes of refused lines (empty)");
+  addChoice(map, "--on-error", lines.onError, onErrors, "empty|keep|skip|stop",
+            "What becomes of refused lines (empty)");
   map.add_flag("--check", lines.isChecked, "Read every result back; refuse what is then another object");
   map.add_flag("--stats", lines.hasStats, "Say how many names were mapped in which time");
   map.footer("Example:\n  zel map Spef Verilog --kind pin pins.txt     # U1:A becomes U1.A");
@@ -102,6 +103,9 @@ int run(int argc, char **argv) {
   explain.add_option("--from", mapping.from, "The space that reads it; otherwise all that can are listed")
       ->type_name("SPACE");
   addMappingOptions(explain, mapping);
+  explain.add_option("--to-separators", mapping.toSeparators, "Those of the spaces that let a file choose them")
+      ->type_name("LIST");
+  explain.add_option("--to-like", mapping.toLike, "The same, as the header of a file declares them")->type_name("FILE");
   explain.footer("Example:\n  zel explain --from Verilog 'top.\\u1/Pad .data[3]'");
 
   CLI::App &check = *app.add_subcommand("check", "List the lines that are no legal names or paths");

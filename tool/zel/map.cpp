@@ -149,33 +149,6 @@ private:
   std::string checked;
 };
 
-// The field of comma-separated values that the first line of a file names.
-class Header {
-public:
-  Header(const LineSettings &lineSettings, const LineFormat &lineFormat)
-      : format(lineFormat), name(lineSettings.field), field(fieldNumber(lineSettings.field)),
-        isNamed(field == 0 && !name.empty()) {}
-
-  bool operator()(Block &block) {
-    block.headerSize = 0;
-    if (isNamed && block.beginsFile) {
-      const Line header = lineAt(block.text(), 0, format, 1);
-      field = columnCalled(name, block.text(), header, format);
-      block.headerSize = header.next;
-      if (field == 0)
-        throw Complaint{statusUsage, std::string(block.file) + ": no column is called '" + name + "'"};
-    }
-    block.field = field;
-    return true;
-  }
-
-private:
-  LineFormat format;
-  std::string name;
-  std::uint32_t field;
-  bool isNamed;
-};
-
 } // namespace
 
 int runMap(const MappingSettings &mappingSettings, const LineSettings &settings) {
@@ -190,9 +163,8 @@ int runMap(const MappingSettings &mappingSettings, const LineSettings &settings)
         (*own)(block);
       });
     else
-      works.emplace_back([own = std::make_shared<ChosenTexts>(mapping.get(), format, settings)](Block &block) {
-        (*own)(block);
-      });
+      works.emplace_back(
+          [own = std::make_shared<ChosenTexts>(mapping.get(), format, settings)](Block &block) { (*own)(block); });
   }
   Progress progress(settings.isQuiet, true, format.end);
   Header header(settings, format);

@@ -68,7 +68,8 @@ void Refusals::add(std::uint64_t lineNumber, std::string_view line, std::size_t 
 }
 
 std::size_t shownWidth(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) { return !continuesCharacter(c); }));
+  return static_cast<std::size_t>(
+      std::count_if(text.begin(), text.end(), [](char c) { return !continuesCharacter(c); }));
 }
 
 std::string shownRefusal(const char *file, const Refusal &refusal, bool isColoured) {

@@ -6,6 +6,7 @@
 #include <cctype>
 #include <cerrno>
 #include <charconv>
+#include <cstring>
 #include <thread>
 
 namespace tool {
@@ -72,6 +73,20 @@ zelMappingSeparators readSeparators(const std::string &option, const std::string
   return separators;
 }
 
+// Those that a file's header declares.
+zelMappingSeparators separatorsOf(const std::string &file) {
+  if (file.empty())
+    return {};
+  zelSeparators found = {};
+  found.size = sizeof found;
+  if (zelReadSeparators(file.c_str(), nullptr, &found) == 0) {
+    if (errno == EINVAL)
+      throw Complaint{statusUsage, file + ": no header of SPEF, DSPF, SDF, DEF or LEF"};
+    throw Complaint{statusFailed, file + ": " + std::strerror(errno)};
+  }
+  return {found.pinDelimiter, found.divider, found.busOpen, found.busClose};
+}
+
 zelMappingOptions optionsOf(const MappingSettings &settings) {
   zelMappingOptions options = {};
   options.size = sizeof options;
@@ -87,8 +102,9 @@ zelMappingOptions optionsOf(const MappingSettings &settings) {
   options.mapState = settings.mapState;
   options.keywords = settings.keywords.empty() ? nullptr : settings.keywords.c_str();
   options.isLenient = settings.isLenient;
-  options.fromSeparators = readSeparators("--from-separators", settings.fromSeparators, {});
-  options.toSeparators = readSeparators("--to-separators", settings.toSeparators, {});
+  options.fromSeparators =
+      readSeparators("--from-separators", settings.fromSeparators, separatorsOf(settings.fromLike));
+  options.toSeparators = readSeparators("--to-separators", settings.toSeparators, separatorsOf(settings.toLike));
   return options;
 }
 
