@@ -772,7 +772,6 @@ ZEL_API char *zelPathToKirraHDLEx(zelPath path, zelHandle handle, int32_t flags,
                                   void *context) ZEL_NOEXCEPT;
 
 /* ---------------------------------------------------------------------------------------------------------------
-<<<<<<< HEAD
  * Mappings: names or paths of one space in another, by a record that is made once
  */
 
@@ -938,7 +937,8 @@ typedef struct zelLinesResult {
  * and an empty line is one. 0, or ENOMEM or EINVAL as zelMapColumn. */
 ZEL_API int zelMapLines(zelMapping mapping, const char *text, uint64_t length, char end,
                         zelLinesResult *result) ZEL_NOEXCEPT;
-=======
+
+/* ---------------------------------------------------------------------------------------------------------------
  * Files
  *
  * What a file's header declares of its names: the format, and the separators in force, for zelGetHandle, which takes
@@ -978,7 +978,6 @@ ZEL_API int zelReadSeparators(const char *fileName, const char **spaceName, zelS
 /* The same of a text of length bytes, which needs no NUL at its end and may hold any bytes. No memory is allocated. */
 ZEL_API int zelFindSeparators(const char *text, uint64_t length, const char **spaceName,
                               zelSeparators *separators) ZEL_NOEXCEPT;
->>>>>>> h-headers
 
 #ifdef __cplusplus
 }
