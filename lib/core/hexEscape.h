@@ -58,6 +58,8 @@ struct Spelling {
   std::uint8_t size[256] = {}; // 0 for the mark of the escape, whose spelling depends on what stands behind it
   bool quotesMark = false;
   char quote = '\0';
+  bool keepsGraphic = true;    // all graphic bytes stand for themselves but for the mark and the backslash
+  Traits changed = traitOther; // a body without these traits stands for itself, whatever word bytes the space takes
 
   constexpr Spelling(const HexEscape &escape, const ByteSet &standing, const ByteSet &quoted = {},
                      char quoteMark = '\\')
@@ -77,8 +79,15 @@ struct Spelling {
         text[i][length++] = HexEscape::digitOf(i);
       }
       size[i] = static_cast<std::uint8_t>(length);
+      if (graphic.has(c) && c != '\\' && (length != 1 || text[i][0] != c))
+        keepsGraphic = false;
     }
+    if (keepsGraphic)
+      changed = traitMark | traitNotGraphic | (quoted.has('\\') || !standing.has('\\') ? traitBackslash : 0);
   }
+
+  // Whether body, apart from case, is written as itself in a space that takes words as they are.
+  bool keeps(const Name &body) const { return body.isWord() || (keepsGraphic && !body.withKinds().has(changed)); }
 };
 
 // For text that is only copied.
@@ -91,14 +100,15 @@ inline void copyLowered(Text &out, Bytes s) {
   out.size += s.size();
 }
 
-// Writes body by a spelling, in lower case when it folds. A byte that is lowered is never the mark.
-inline void encode(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+template <bool folds> void encodeAs(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling) {
   char *to = out.bytes + out.size;
   for (std::size_t i = 0; i < body.size(); ++i) {
+    // A byte that is lowered is never the mark.
     const auto byte = static_cast<unsigned char>(folds ? toLower(body[i]) : body[i]);
     std::memcpy(to, spelling.text[byte], sizeof spelling.text[byte]);
-    to += spelling.size[byte];
-    if (spelling.size[byte] != 0)
+    const std::size_t size = spelling.size[byte];
+    to += size;
+    if (size != 0)
       continue;
     // The mark is written so that it reads back as a plain mark.
     out.size = static_cast<std::size_t>(to - out.bytes);
@@ -113,9 +123,18 @@ inline void encode(Text &out, Bytes body, const HexEscape &escape, const Spellin
   out.size = static_cast<std::size_t>(to - out.bytes);
 }
 
-// The bytes that a writer makes of a body in a space that takes words as they are: the body itself if it can be.
+// Writes body by a spelling, in lower case when it folds.
+inline void encode(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+  if (folds)
+    encodeAs<true>(out, body, escape, spelling);
+  else
+    encodeAs<false>(out, body, escape, spelling);
+}
+
+// The bytes that a writer makes of a body, behind what work holds already, in a space that takes words as they are: the
+// body itself if it can be.
 inline Bytes spell(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds) {
-  if (!body.isWord())
+  if (!spelling.keeps(body))
     encode(work, body, escape, spelling, folds);
   else if (folds && body.has(traitUpper))
     copyLowered(work, body);
@@ -151,9 +170,10 @@ inline bool quotesNothing(Bytes, std::size_t) { return false; }
 // The same as an Ident, of which a capital makes a case-sensitive one. A name in which nothing is quoted or encoded is
 // its own body.
 template <typename Quotes>
-Ident decodeIdent(Text &work, const Name &name, const HexEscape &escape, std::uint8_t quoteTrait, Quotes quotes) {
-  if (!name.has(static_cast<std::uint8_t>(traitMark | quoteTrait)))
-    return identByCase(name);
+Ident decodeIdent(Text &work, const Name &name, const HexEscape &escape, Traits quoteTrait, Quotes quotes) {
+  const Name known = name.withKinds();
+  if (!known.has(static_cast<Traits>(traitMark | quoteTrait)))
+    return identByCase(known);
   const bool copiedUpper = decode(work, name, escape, quotes);
   return {copiedUpper ? 'S' : 'I', Name(work.view())};
 }

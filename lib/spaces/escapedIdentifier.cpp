@@ -18,7 +18,7 @@ bool EscapedIdentifierRules::isLegal(const Name &name) const {
   if (!isNameLength(name))
     return false;
   if (name[0] == '\\')
-    return isEscaped(name) && allOf(content(name), escape.literal);
+    return isEscaped(name) && (kindsIn(content(name)) & traitNotGraphic) == 0;
   return isNormal(name);
 }
 
@@ -28,13 +28,13 @@ Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, 
     if (!folds)
       return ident.body;
     copyLowered(work, ident.body);
-    if (!isKeyword(Name(work.view())))
+    if (!isKeyword(Name(work.view(), 0)))
       return work.view();
     work.size = 0;
   }
 
   work.put('\\');
-  encode(work, ident.body, escape, spelling, folds);
+  spell(work, ident.body, escape, spelling, folds);
   work.put(' ');
   return work.view();
 }
