@@ -17,7 +17,7 @@ bool BackslashRules::isLegal(const Name &name) const {
 }
 
 Bytes BackslashRules::write(const Ident &ident, const Setting &setting, Text &work) const {
-  const bool folds = foldsCase(ident, setting);
+  const bool folds = foldsCase(ident, setting) && ident.body.has(traitUpper);
   if (takesWords)
     return spell(work, ident.body, escape, spelling, folds);
   encode(work, ident.body, escape, spelling, folds);

@@ -9,12 +9,12 @@ bool ClassEscapeRules::isLegal(const Name &name) const {
 }
 
 Bytes ClassEscapeRules::write(const Ident &ident, const Setting &setting, Text &work) const {
-  return spell(work, ident.body, escape, spelling, foldsCase(ident, setting));
+  return spell(work, ident.body, escape, spelling, foldsCase(ident, setting) && ident.body.has(traitUpper));
 }
 
 Ident ClassEscapeRules::read(const Name &name, const Setting &, Text &work) const {
   const Name known = name.withKinds();
-  return isLegal(known) ? decodeIdent(work, known, escape, 0, quotesNothing) : refuseIdent();
+  return isLegal(known) ? decodeIdent(work, known, escape) : refuseIdent();
 }
 
 } // namespace zeli

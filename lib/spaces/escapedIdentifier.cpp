@@ -47,7 +47,7 @@ Ident EscapedIdentifierRules::read(const Name &name, const Setting &, Text &work
     return {'S', name};
   if (!isEscaped(name))
     return refuseIdent();
-  return decodeIdent(work, {content(name), name.look.traits}, escape, 0, quotesNothing);
+  return decodeIdent(work, {content(name), name.look.traits}, escape);
 }
 
 } // namespace zeli

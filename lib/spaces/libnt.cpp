@@ -75,7 +75,7 @@ struct LibraryNTRules : ClassEscapeRules {
     if (startsWith(name, reservedPrefix))
       return {'I', Name(from(name, reservedPrefix.size()))};
     if (name.find('%') == Bytes::npos) {
-      const Ident ident = decodeIdent(work, name, escape, 0, quotesNothing);
+      const Ident ident = decodeIdent(work, name, escape);
       return {'I', ident.body};
     }
     // With '%', every capital that matters stands behind one, and the file system may have changed the case of all.
