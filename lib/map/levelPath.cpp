@@ -70,7 +70,7 @@ void LevelPath::scan(Bytes path) {
     others[i] = look(loadBlock(path.data() + size - blockBytes), blockBytes - rest) | beyond;
   else
     others[i] = rest != 0 ? look(loadPart(path.data(), size), 0) | beyond : beyond;
-  traits = static_cast<std::uint8_t>((bitsOf(capital) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0));
+  traits = static_cast<Traits>((bitsOf(capital) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0));
 }
 
 std::size_t LevelPath::wordEnd(std::size_t start) const {
@@ -251,8 +251,8 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
   for (;;) {
     std::size_t end = wordEnd(start);
     // Nothing but a mark is to be exchanged behind most levels.
-    while (areWordsPlain && !hasElements && !sawPin && end != start && begin()[end] == from.marks.divider &&
-           from.ownNames == nullptr && takesWord(route, path, start, end)) {
+    while (areWordsPlain && !hasElements && !sawPin && end != start && end != size &&
+           begin()[end] == from.marks.divider && from.ownNames == nullptr && takesWord(route, path, start, end)) {
       begin()[end] = to.marks.divider;
       isDivided = true;
       start = end + 1;
