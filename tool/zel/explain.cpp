@@ -255,6 +255,10 @@ Row rowOf(const std::string &space, const MappingSettings &settings, const std::
     return {space, "-", isPathless ? "has no paths" : refusalOf(mapping.get(), text)};
   }
   std::string notes = reasonsFor(target, levels);
+  const bool isFolded = factsOf(tableName(settings.from)).caseRule == CaseRule::folded;
+  if (isFolded && std::any_of(text.begin(), text.end(), isCapital) &&
+      std::none_of(result->begin(), result->end(), isCapital))
+    notes += std::string(notes.empty() ? "" : "; ") + "in lower case: capitals mean nothing in the source";
   const std::string loss = lossOf(mapping.get(), text, *result);
   if (!loss.empty())
     notes += (notes.empty() ? "" : "; ") + loss;
