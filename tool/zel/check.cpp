@@ -71,18 +71,31 @@ private:
                         std::to_string(mapped.position + 1) + ": " + reasonText(mapped.reason) + '\n');
   }
 
-  // A word that only the revision reserves is spelt differently under it.
+  // A word that only the revision reserves is spelt differently under it, unless it is so already.
   void findReserved(std::size_t i, Mapped &mapped) {
     const std::string plain(mapped.result);
     const Mapped spelled = (*reserved)[i];
     if (spelled.reason != ZEL_REASON_NONE || spelled.result == plain)
       return;
-    const auto difference = std::mismatch(plain.begin(), plain.end(), spelled.result.begin(), spelled.result.end());
-    mapped.reason = reasonRevisionWord;
-    mapped.position = chosen[i].textBegin - chosen[i].begin;
-    if (plain == texts.source(i))
-      mapped.position += static_cast<std::size_t>(difference.first - plain.begin());
+    const std::string_view source = texts.source(i);
+    std::size_t at = 0;
+    for (const char c : spelled.result) {
+      while (at < source.size() && lowered(source[at]) != lowered(c) && c != '\\' && isMark(source[at]))
+        ++at; // escaped without need
+      if (at == source.size())
+        return;
+      if (lowered(source[at]) == lowered(c)) {
+        ++at;
+      } else if (c == '\\') {
+        mapped.reason = reasonRevisionWord;
+        mapped.position = chosen[i].textBegin - chosen[i].begin + at;
+        return;
+      }
+    }
   }
+
+  static char lowered(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+  static bool isMark(char c) { return c == '\\' || c == ' '; }
 
   // Some readers take words that are reserved.
   void test(std::size_t i, Mapped &mapped) {
