@@ -909,6 +909,76 @@ typedef struct zelColumnResult {
  * EOVERFLOW when the results do not fit 32-bit offsets, EINVAL for a null argument. */
 ZEL_API int zelMapColumn(zelMapping mapping, const zelColumn *column, zelColumnResult *result) ZEL_NOEXCEPT;
 
+/* A refused line of a block of lines. */
+typedef struct zelLineRefusal {
+  uint64_t line;   /* from 0 */
+  uint64_t start;  /* where the line begins in the block */
+  uint64_t length; /* without its end */
+  zelRefusal refusal;
+} zelLineRefusal;
+
+/* What zelMapLines makes of a block. */
+typedef struct zelLinesResult {
+  uint32_t size;            /* of this struct */
+  int32_t isKept;           /* non-zero: a refused line stays as it is; otherwise it becomes empty */
+  uint64_t lines;           /* how many there were; a rest behind the last end is one, too */
+  uint64_t refused;         /* how many of them were refused */
+  zelLineRefusal *refusals; /* the first refusalCapacity refused lines, the caller's; or null */
+  uint64_t refusalCapacity;
+  char *bytes; /* the results, each with its end, as in zelColumnResult */
+  uint64_t capacity;
+  uint64_t length;
+  void *(*grow)(void *block, uint64_t size, void *context);
+  void *context;
+} zelLinesResult;
+
+/* Maps the lines of a block of text, each ended by the byte end, without allocation a line. The end of a line stands
+ * for the white space that ends an escaped identifier, since editors strip it; a carriage return in front of it stays,
+ * and an empty line is one. 0, or ENOMEM or EINVAL as zelMapColumn. */
+ZEL_API int zelMapLines(zelMapping mapping, const char *text, uint64_t length, char end,
+                        zelLinesResult *result) ZEL_NOEXCEPT;
+
+/* ---------------------------------------------------------------------------------------------------------------
+ * Files
+ *
+ * What a file's header declares of its names: the format, and the separators in force, for zelGetHandle, which takes
+ * the same 0 where nothing is declared:
+ *
+ *   "Spef"  *DIVIDER, *DELIMITER (the pin delimiter), *BUS_DELIMITER with one bracket or two
+ *   "Spf"   *|DIVIDER, *|DELIMITER, *|BUSBIT of a file with *|DSPF or *|RSPF in front of its netlist
+ *   "Sdf"   (DIVIDER c)
+ *   "Lef"   DIVIDERCHAR "c" ; BUSBITCHARS "cc" ;
+ *   "Def"   the same
+ *
+ * Comments and strings are those of the format, and so are the cases of its keywords (SPEF tells them apart, the others
+ * do not). A separator is one printing ASCII character that is no letter, digit, '_', '"' or backslash. What is not
+ * declared in just these forms, or is not complete within the first 65536 bytes, counts as not declared; of several
+ * declarations the last counts. Nothing is read behind the header: behind the first net, port or name map of SPEF, the
+ * first line of DSPF that is no comment, the first CELL of SDF, the first section of DEF, the first layer, via, site or
+ * macro of LEF. LEF and DEF have the same declarations and are told apart by what else they hold up to there, with what
+ * stands there; a file with nothing of either has no format.
+ */
+
+/* The caller sets size to sizeof(zelSeparators). Later versions may add members behind these. */
+typedef struct zelSeparators {
+  uint32_t size;
+  char pinDelimiter; /* each 0 when the file does not declare it */
+  char divider;
+  char busOpen;
+  char busClose;
+} zelSeparators;
+
+/* Reads the beginning of a file, up to 65537 bytes (the last to see whether it goes on), into memory of its own, which
+ * it frees. Stores the name of its format, as zelGetSpaceByName takes it (constant), and its separators where the
+ * pointers are non-null, and returns 1. 0 otherwise, with nothing stored and errno set: EINVAL for a file of no such
+ * format (also one that is packed), for a null fileName or a size too small; ENOMEM; or that of open and read (ENOENT,
+ * EACCES, EISDIR, ...). */
+ZEL_API int zelReadSeparators(const char *fileName, const char **spaceName, zelSeparators *separators) ZEL_NOEXCEPT;
+
+/* The same of a text of length bytes, which needs no NUL at its end and may hold any bytes. No memory is allocated. */
+ZEL_API int zelFindSeparators(const char *text, uint64_t length, const char **spaceName,
+                              zelSeparators *separators) ZEL_NOEXCEPT;
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,36 +1,10 @@
 // The mapping of paths between languages.
-#include "map/directPath.h"
-#include "path/zelPathParse.h"
-#include "path/zelPathPrint.h"
-
-#include <cstddef>
+#include "map/itemPath.h"
+#include "map/levelPath.h"
 
 using namespace zeli;
 
 namespace {
-
-// Memory of a path that lives for one call: small paths fit on the stack.
-struct Arena {
-  std::size_t used = 0;
-  alignas(std::max_align_t) char bytes[4096];
-
-  static void *allocate(std::uint64_t size, void *context) {
-    auto *arena = static_cast<Arena *>(context);
-    const std::uint64_t start = (arena->used + alignof(std::max_align_t) - 1) & ~(alignof(std::max_align_t) - 1);
-    if (size > sizeof arena->bytes || start > sizeof arena->bytes - size)
-      return std::malloc(size);
-    arena->used = start + size;
-    return arena->bytes + start;
-  }
-
-  static void release(void *memory, void *context) {
-    const auto *arena = static_cast<Arena *>(context);
-    const auto address = reinterpret_cast<std::uintptr_t>(memory);
-    const auto begin = reinterpret_cast<std::uintptr_t>(arena->bytes);
-    if (address < begin || address >= begin + sizeof arena->bytes)
-      std::free(memory);
-  }
-};
 
 // The handle of a space in place of a null one; errno tells why there is none.
 zelHandle handleOf(const char *spaceName) {
@@ -48,21 +22,21 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
   if (from == nullptr || to == nullptr)
     return nullptr;
   if (text != nullptr) {
-    DirectPath direct;
-    if (const Bytes result = direct.map(text, from, to, flags); result.data() != nullptr)
-      return makeString(result, alloc, context);
+    Route route;
+    LevelPath levels;
+    if (routeOf(from, to, flags, route))
+      if (const Bytes result = levels.map({text, strnlen(text, LevelPath::longest + 1)}, route);
+          result.data() != nullptr)
+        return makeString(result, alloc, context);
   }
-  Arena arena;
-  const zelPath path = parsePath(*from->language, text, from, Arena::allocate, &arena);
-  if (path == nullptr)
-    return nullptr;
-  char *result = nullptr;
-  if ((zelPathGetFlag(path) & ZEL_PATH_ERROR) == 0)
-    result =
-        printPath(printingLanguage(*to->language), path, to, static_cast<std::int32_t>(flags), alloc, context, true);
-  zelFreePath(path, Arena::release, &arena);
-  // cppcheck-suppress returnDanglingLifetime ; the result is the caller's memory, not the path's
-  return result;
+  const PathLanguage &source = *from->language;
+  const PathLanguage &target = printingLanguage(*to->language);
+  TransientNames names = {.text = text,
+                          .read = source.names.read,
+                          .from = {.handle = separatingHandle(source, from)},
+                          .written = target.writer.names,
+                          .to = {.handle = separatingHandle(target, to)}};
+  return mapByItems(source, from, target, to, flags, names, alloc, context);
 }
 
 } // namespace

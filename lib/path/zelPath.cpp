@@ -152,6 +152,7 @@ zelPath zeliGetNewPath(zelAllocFunc alloc, void *context) {
   chunk->previous = nullptr;
   chunk->last = chunk;
   chunk->walked = nullptr;
+  chunk->refusedAt = nullptr;
   return chunk;
 }
 

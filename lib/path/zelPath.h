@@ -112,6 +112,8 @@ struct zelPathRecord {
   std::uint8_t items[zeli::chunkBytes];
   zeli::Slot slots[zeli::chunkSlots];
 
+  const char *refusedAt; // in the head: where its parser refused the text, null where it did not
+
   // So that long paths cost no search: the chunk before this one (null in the head); in the head a chunk at or before
   // the last used one, and the chunk that the walk stands on (null when it has to be looked up).
   zelPath previous;

@@ -5,11 +5,12 @@
 
 using namespace zeli;
 
-Ident zeli::readText(const PathLanguage &language, const zelPathRecord *head, const char *text, Text &work) {
+Ident zeli::readText(const PathLanguage &language, const zelPathRecord *head, const char *text, const Operations &names,
+                     const Setting &setting, Text &work) {
   const auto length = static_cast<std::size_t>(language.names.scan(text, head->handle) - text);
   if (length > maxName)
     return refuseIdent();
-  return language.names.read->read(Name(Bytes(text, length)), {.handle = head->handle}, work);
+  return names.read(Name(Bytes(text, length)), setting, work);
 }
 
 char *zeli::convertText(const PathLanguage &language, const zelPathRecord *head, const char *text) {
@@ -18,7 +19,7 @@ char *zeli::convertText(const PathLanguage &language, const zelPathRecord *head,
   const HandleScope scope(names.currentHandle != nullptr ? names.currentHandle() : unused, head->handle);
   const Allocator memory = allocatorOf(head);
   Text work;
-  return makeIdent(readText(language, head, text, work), memory.alloc, memory.context);
+  return makeIdent(readText(language, head, text, names, {.handle = head->handle}, work), memory.alloc, memory.context);
 }
 
 char *zelStrToIdent(zelPath chunk, std::uint32_t position) noexcept {

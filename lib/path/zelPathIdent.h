@@ -6,8 +6,9 @@
 
 namespace zeli {
 
-// The Ident of the name at text, refused when it does not convert.
-Ident readText(const PathLanguage &language, const zelPathRecord *head, const char *text, Text &work);
+// The Ident of the name at text, read as one of names; refused when it does not convert.
+Ident readText(const PathLanguage &language, const zelPathRecord *head, const char *text, const Operations &names,
+               const Setting &setting, Text &work);
 
 // The Ident of the name at text, allocated as the path allocates; null when it does not convert.
 char *convertText(const PathLanguage &language, const zelPathRecord *head, const char *text);

@@ -24,10 +24,13 @@ zelPath parsePath(const PathLanguage &language, const char *text, zelHandle hand
 constexpr char aName = 'a';
 constexpr char aNumber = '0';
 
-// Ends a parse that refuses its text, or could not add to the path (errno is then set): what was read so far stays.
-inline zelPath reject(zelPath path) {
-  if ((path->flags & flagError) == 0)
+// Ends a parse that refuses its text at a place, or could not add to the path (errno is then set): what was read so far
+// stays.
+inline zelPath reject(zelPath path, const char *text) {
+  if ((path->flags & flagError) == 0) {
     errno = EINVAL;
+    path->refusedAt = text;
+  }
   path->flags |= flagError;
   return path;
 }

@@ -56,10 +56,10 @@ zelPath zeli::parseBus(zelPath path, const PathLanguage &language, const char *t
   for (;;) {
     switch (classOf(marks, state, inBus, *text)) {
     case '\0':
-      return inBus || state == divider ? reject(path) : path;
+      return inBus || state == divider ? reject(path, text) : path;
     case aName:
       if (!appendName(path, language, text) || inBus || state == name)
-        return reject(path);
+        return reject(path, text);
       state = name;
       continue;
     case aDivider:
@@ -68,7 +68,7 @@ zelPath zeli::parseBus(zelPath path, const PathLanguage &language, const char *t
         break;
       }
       if (inBus || !isOneOf(state, {name, bracket}))
-        return reject(path);
+        return reject(path, text);
       if (state == bracket)
         noteMid(path);
       path->flags |= flagHierarchy;
@@ -77,28 +77,28 @@ zelPath zeli::parseBus(zelPath path, const PathLanguage &language, const char *t
     case aBusOpen:
       // The rest of the text is read all the same.
       if (language.reader.busNeedsName && state != name)
-        reject(path);
+        reject(path, text);
       inBus = true;
       state = bracket;
       break;
     case aNumber: {
       if (!inBus || !isOneOf(state, {bracket, colon}))
-        return reject(path);
+        return reject(path, text);
       const std::int32_t value = readSigned(text);
       if (!isNumber(value))
-        return reject(path);
+        return reject(path, text);
       (state == colon ? last : first) = value;
       state = state == colon ? second : number;
       continue;
     }
     case ':':
       if (!inBus || state != number)
-        return reject(path);
+        return reject(path, text);
       state = colon;
       break;
     case aBusClose:
       if (!inBus || !isOneOf(state, {number, second}))
-        return reject(path);
+        return reject(path, text);
       if (!appendBus(path, state == second, first, last))
         return path;
       inBus = false;
@@ -107,7 +107,7 @@ zelPath zeli::parseBus(zelPath path, const PathLanguage &language, const char *t
     case ' ':
       break;
     default:
-      return reject(path);
+      return reject(path, text);
     }
     ++text;
   }

@@ -12,7 +12,7 @@ enum class IndexState { start, first, colon, second, secondColon, third, star, c
 
 // Ends an index that is refused, at the character that it is refused for.
 const char *rejectIndex(zelPath path, const char *text) {
-  reject(path);
+  reject(path, text);
   return text;
 }
 
@@ -135,18 +135,18 @@ zelPath zeli::parseORKA(zelPath path, const PathLanguage &language, const char *
   for (;;) {
     switch (classOf(state, *text)) {
     case '\0':
-      return depth < 1 && isOneOf(state, {name, listEnd, index}) ? path : reject(path);
+      return depth < 1 && isOneOf(state, {name, listEnd, index}) ? path : reject(path, text);
     case aName:
       if (!appendName(path, language, text, topPending ? kindTopMark : kindNone) ||
           isOneOf(state, {less, star, count, name, listEnd}))
-        return reject(path);
+        return reject(path, text);
       topPending = false;
       state = name;
       continue;
     case aNumber: {
       const std::int32_t value = readDigits(text);
       if (!isNumber(value))
-        return reject(path);
+        return reject(path, text);
       path->flags |= flagRepeat;
       if (!appendNumber(path, kindGroupRepeat, value))
         return path;
@@ -162,7 +162,7 @@ zelPath zeli::parseORKA(zelPath path, const PathLanguage &language, const char *
       else if (isOneOf(state, {name, index}))
         path->flags |= flagHierarchy;
       else
-        return reject(path);
+        return reject(path, text);
       if (state == index)
         noteMid(path);
       state = slash;
@@ -174,36 +174,36 @@ zelPath zeli::parseORKA(zelPath path, const PathLanguage &language, const char *
       }
       text = parseORKAIndex(path, text + 1);
       if (state != name)
-        return reject(path);
+        return reject(path, text);
       state = index;
       continue;
     case '>':
       if (state != count)
-        return reject(path);
+        return reject(path, text);
       state = prefix;
       break;
     case '(':
       if (!isOneOf(state, {start, prefix, comma}) || !append(path, kindListStart))
-        return reject(path);
+        return reject(path, text);
       ++depth;
       state = listStart;
       break;
     case ',':
       if (!isOneOf(state, {name, index}) || !append(path, kindList))
-        return reject(path);
+        return reject(path, text);
       path->flags |= flagList;
       state = comma;
       break;
     case ')':
       if (!isOneOf(state, {name, index}) || !append(path, kindListEnd) || --depth < 0)
-        return reject(path);
+        return reject(path, text);
       state = listEnd;
       break;
     case ' ':
     case '\t':
       break;
     default:
-      return reject(path);
+      return reject(path, text);
     }
     ++text;
   }

@@ -20,15 +20,15 @@ zelPath zeli::parseSpice(zelPath path, const PathLanguage &language, const char 
   for (;;) {
     switch (classOf(*text)) {
     case '\0':
-      return state == dot ? reject(path) : path;
+      return state == dot ? reject(path, text) : path;
     case aName:
       if (!appendName(path, language, text) || state == name)
-        return reject(path);
+        return reject(path, text);
       state = name;
       continue;
     case '.':
       if (state != name)
-        return reject(path);
+        return reject(path, text);
       path->flags |= flagHierarchy;
       state = dot;
       break;
@@ -36,7 +36,7 @@ zelPath zeli::parseSpice(zelPath path, const PathLanguage &language, const char 
     case '\t':
       break;
     default:
-      return reject(path);
+      return reject(path, text);
     }
     ++text;
   }

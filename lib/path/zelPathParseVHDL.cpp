@@ -129,17 +129,17 @@ zelPath zeli::parseVHDL(zelPath path, const PathLanguage &language, const char *
     switch (classOf(c)) {
     case '\0':
       if (endsReference(state))
-        return storeLib(path, reference) ? path : reject(path);
-      return isOneOf(state, {name, index}) ? path : reject(path);
+        return storeLib(path, reference) ? path : reject(path, text);
+      return isOneOf(state, {name, index}) ? path : reject(path, text);
     case aName:
       if (isOneOf(state, {start, colon, comma})) {
         state = name;
         if (!appendName(path, language, text))
-          return reject(path);
+          return reject(path, text);
       } else {
         const char *const end = language.names.scan(text, nullptr);
         if (!takePart(state, reference, Bytes(text, static_cast<std::size_t>(end - text))))
-          return reject(path);
+          return reject(path, text);
         text = end;
       }
       c = *text;
@@ -148,9 +148,9 @@ zelPath zeli::parseVHDL(zelPath path, const PathLanguage &language, const char *
       if (state != start)
         path->flags |= flagHierarchy;
       if (!isOneOf(state, {start, name, index}) && !endsReference(state))
-        return reject(path);
+        return reject(path, text);
       if (endsReference(state) && !storeLib(path, reference))
-        return reject(path);
+        return reject(path, text);
       if (isOneOf(state, {cell, viewParen, index})) {
         path->flags |= pendingMid;
         pendingMid = 0;
@@ -159,17 +159,17 @@ zelPath zeli::parseVHDL(zelPath path, const PathLanguage &language, const char *
       break;
     case '(':
       if (!isOneOf(state, {name, cell}))
-        return reject(path);
+        return reject(path, text);
       if (state == name)
         path->flags |= flagIndex; // a range is an index, too
       state = state == name ? paren : cellParen;
       break;
     case aNumber: {
       if (!isOneOf(state, {paren, direction}))
-        return reject(path);
+        return reject(path, text);
       const std::int32_t value = readDigits(text);
       if (!isNumber(value))
-        return reject(path);
+        return reject(path, text);
       c = *text;
       if (state == paren) {
         first = value;
@@ -188,7 +188,7 @@ zelPath zeli::parseVHDL(zelPath path, const PathLanguage &language, const char *
       }
       // What followed the digits is taken, while the text goes on behind the blanks: a blank in front of ')' hides it.
       if (c == ':' || classOf(c) == aName)
-        return reject(path);
+        return reject(path, text);
       if (*text == '\0')
         c = '\0';
       continue;
@@ -199,27 +199,27 @@ zelPath zeli::parseVHDL(zelPath path, const PathLanguage &language, const char *
         break;
       }
       if (!isOneOf(state, {number, second}))
-        return reject(path);
+        return reject(path, text);
       pendingMid = state == second ? flagMidRange : flagMidIndex;
       if (!appendBus(path, state == second, first, last))
-        return reject(path);
+        return reject(path, text);
       state = index;
       break;
     case '@':
       if (!isOneOf(state, {start, name, comma, index}))
-        return reject(path);
+        return reject(path, text);
       state = at;
       break;
     case '.':
       if (state != library)
-        return reject(path);
+        return reject(path, text);
       state = libraryDot;
       break;
     case '&':
     case ',':
       (c == '&' ? sawAmpersand : sawComma) = true;
       if ((sawAmpersand && sawComma) || !append(path, kindList))
-        return reject(path);
+        return reject(path, text);
       path->flags |= flagList;
       state = comma;
       // The character behind an ampersand goes with it.
@@ -230,7 +230,7 @@ zelPath zeli::parseVHDL(zelPath path, const PathLanguage &language, const char *
     case '\t':
       break;
     default:
-      return reject(path);
+      return reject(path, text);
     }
     c = *++text;
   }

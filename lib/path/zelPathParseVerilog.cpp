@@ -29,27 +29,27 @@ zelPath zeli::parseVerilog(zelPath path, const PathLanguage &language, const cha
     switch (classOf(*text)) {
     case '\0': {
       const bool isComplete = depth == 0 && !braceOpen && !inBracket && !isOneOf(state, {comma, dot});
-      return isComplete ? path : reject(path);
+      return isComplete ? path : reject(path, text);
     }
     case aName:
       if (!appendName(path, language, text) || inBracket || state == name)
-        return reject(path);
+        return reject(path, text);
       state = name;
       continue;
     case aNumber: {
       const bool isExpected = (inBracket && isOneOf(state, {bracket, colon})) || state == brace;
       if (!isExpected)
-        return reject(path);
+        return reject(path, text);
       const std::int32_t value = readSigned(text);
       if (!isNumber(value))
-        return reject(path);
+        return reject(path, text);
       (state == colon ? last : first) = value;
       state = state == colon ? second : number;
       continue;
     }
     case '.':
       if (inBracket || !isOneOf(state, {name, bracket}))
-        return reject(path);
+        return reject(path, text);
       if (state == bracket)
         noteMid(path);
       path->flags |= flagHierarchy;
@@ -57,18 +57,18 @@ zelPath zeli::parseVerilog(zelPath path, const PathLanguage &language, const cha
       break;
     case '[':
       if (state != name)
-        return reject(path);
+        return reject(path, text);
       inBracket = true;
       state = bracket;
       break;
     case ':':
       if (!inBracket || state != number)
-        return reject(path);
+        return reject(path, text);
       state = colon;
       break;
     case ']':
       if (!inBracket || !isOneOf(state, {number, second}))
-        return reject(path);
+        return reject(path, text);
       if (!appendBus(path, state == second, first, last))
         return path;
       inBracket = false;
@@ -76,7 +76,7 @@ zelPath zeli::parseVerilog(zelPath path, const PathLanguage &language, const cha
       break;
     case '{':
       if (inBracket || !isOneOf(state, {start, comma, bracket, number}))
-        return reject(path);
+        return reject(path, text);
       braceOpen = true;
       if (state == number) {
         path->flags |= flagRepeat;
@@ -90,7 +90,7 @@ zelPath zeli::parseVerilog(zelPath path, const PathLanguage &language, const cha
       break;
     case ',':
       if (!isOneOf(state, {name, brace, bracket}))
-        return reject(path);
+        return reject(path, text);
       path->flags |= flagList;
       if (!append(path, kindList))
         return path;
@@ -98,7 +98,7 @@ zelPath zeli::parseVerilog(zelPath path, const PathLanguage &language, const cha
       break;
     case '}':
       if (!isOneOf(state, {name, brace, bracket}) || !append(path, kindListEnd) || --depth < 0)
-        return reject(path);
+        return reject(path, text);
       braceOpen = false;
       state = brace;
       break;
@@ -106,7 +106,7 @@ zelPath zeli::parseVerilog(zelPath path, const PathLanguage &language, const cha
     case '\t':
       break;
     default:
-      return reject(path);
+      return reject(path, text);
     }
     ++text;
   }

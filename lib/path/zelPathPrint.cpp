@@ -171,40 +171,42 @@ void openGroup(PrintRun &run) {
 
 // cppcheck-suppress uninitMemberVar ; the text is deliberately not cleared for every name
 PrintRun::PrintRun(const PathLanguage &target, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask,
-                   bool isTransientPath)
+                   TransientNames *transientNames)
     : language(target), path(printedPath), handle(separatingHandle(target, givenHandle)),
-      marks(marksOf(handle, target.writer.marks)), state(mask), isTransient(isTransientPath) {}
+      marks(marksOf(handle, target.writer.marks)), state(mask), transient(transientNames) {}
 
 void PrintRun::putNumber(std::int32_t number) {
   numberStart = size;
   numberEnd = size = static_cast<std::size_t>(writeNumber(text + size, number) - text);
 }
 
-void PrintRun::putIdent(const Ident &ident) {
+// Nothing is written of an Ident that the target cannot hold.
+bool PrintRun::putIdent(const Ident &ident, const Operations &names, const Setting &setting) {
   guard();
   if (!isNameLength(ident.body)) {
     refuse();
-    return;
+    return false;
   }
-  const Operations &names = *language.writer.names;
   Text work;
-  const Bytes name = names.write(ident, {.handle = handle}, work);
+  const Bytes name = names.write(ident, setting, work);
   leaveHandle(names);
   if (name.size() > maxName)
     refuse();
   else if (name.data() != nullptr)
     put(name);
+  return name.data() != nullptr && name.size() <= maxName;
 }
 
-void PrintRun::putIdent(const char *ident) { putIdent(identOf(ident)); }
+void PrintRun::putIdent(const char *ident) { putIdent(identOf(ident), *language.writer.names, {.handle = handle}); }
 
 void PrintRun::putIdentAt(Cursor cursor) {
-  if (isText(cursor.kind()) && isTransient) {
-    const PathLanguage &source = *languageOf(path);
+  const char *const name = cursor.chunk->slots[slotOf(cursor.kind())].string;
+  if (isText(cursor.kind()) && transient != nullptr) {
     Text work;
-    const Ident ident = readText(source, path, cursor.chunk->slots[slotOf(cursor.kind())].string, work);
-    leaveHandle(*source.names.read);
-    putIdent(ident);
+    const Ident ident = readText(*languageOf(path), path, name, *transient->read, transient->from, work);
+    leaveHandle(*transient->read);
+    if (!putIdent(ident, *transient->written, transient->to))
+      transient->refuse(name, ident.body.data() == nullptr ? ZEL_REASON_NOT_CONVERTED : ZEL_REASON_NOT_WRITABLE);
     return;
   }
   if (isText(cursor.kind()))
@@ -214,6 +216,12 @@ void PrintRun::putIdentAt(Cursor cursor) {
     isOutOfMemory = true;
   else
     putIdent(cursor.chunk->slots[slotOf(cursor.kind())].string);
+}
+
+void PrintRun::putUnprintable(Cursor cursor) {
+  put(unprintable);
+  if (transient != nullptr)
+    transient->refuse(transient->text, isLib(cursor.kind()) ? ZEL_REASON_NOT_CONVERTED : ZEL_REASON_NOT_WRITABLE);
 }
 
 void PrintRun::item(Cursor cursor) {
@@ -232,7 +240,7 @@ void PrintRun::alternative() {
 }
 
 char *zeli::printPath(const PathLanguage &language, zelPath path, zelHandle handle, std::int32_t flags,
-                      zelAllocFunc alloc, void *context, bool isTransient) {
+                      zelAllocFunc alloc, void *context, TransientNames *transient) {
   if (firstItem(path).atEnd())
     return makeString("", alloc, context);
   const auto isAsked = [flags](int flag) { return (flags & flag) != 0; };
@@ -249,7 +257,7 @@ char *zeli::printPath(const PathLanguage &language, zelPath path, zelHandle hand
 
   char *result = nullptr;
   if (explosion.isWhole) {
-    PrintRun run(language, path, handle, mask, isTransient);
+    PrintRun run(language, path, handle, mask, transient);
     if (isAsked(ZEL_PRINT_TOP))
       run.set(stateTopOfHierarchy);
     if (isAsked(ZEL_PRINT_GROUP))

@@ -19,6 +19,22 @@ enum PrintState : std::uint32_t {
   stateTopOfHierarchy = 2048 // ORKA: as the top of the hierarchy
 };
 
+// The names of a path that lives for one mapping only: read straight from its text and written as the mapping says,
+// without Idents. What is refused first is noted.
+struct TransientNames {
+  const char *text;
+  const Operations *read;
+  Setting from;
+  const Operations *written;
+  Setting to;
+  zelRefusal refusal = {};
+
+  void refuse(const char *at, std::int32_t reason) {
+    if (refusal.reason == ZEL_REASON_NONE)
+      refusal = {reason, static_cast<std::uint32_t>(at - text)};
+  }
+};
+
 // One printing run. The text has room for one item behind the longest result; a further one overwrites it, since an
 // over-long text cannot be returned any more.
 struct PrintRun {
@@ -28,14 +44,14 @@ struct PrintRun {
   Punctuation marks; // in force
   std::uint32_t state;
   bool isOutOfMemory = false;
-  bool isTransient; // nobody will ask the path for the Idents of its names
+  TransientNames *transient; // null where the path's names become Idents
   std::size_t size = 0;
   std::size_t numberStart = 0; // of the last number
   std::size_t numberEnd = 0;
   char text[2 * (maxName + 1) + 64];
 
   PrintRun(const PathLanguage &target, zelPath printedPath, zelHandle givenHandle, std::uint32_t mask,
-           bool isTransientPath);
+           TransientNames *transientNames);
 
   bool has(std::uint32_t bits) const { return (state & bits) != 0; }
   void set(std::uint32_t bits) { state |= bits; }
@@ -55,8 +71,9 @@ struct PrintRun {
   }
   void putNumber(std::int32_t number);
   void putIdent(const char *ident); // nothing for one that the target cannot write
-  void putIdent(const Ident &ident);
+  bool putIdent(const Ident &ident, const Operations &names, const Setting &setting);
   void putIdentAt(Cursor cursor);
+  void putUnprintable(Cursor cursor);
 
   // The calls of the item printer.
   void item(Cursor cursor);
@@ -86,7 +103,7 @@ constexpr Bytes unprintable = "!ERROR!";
 
 // The printer of a language.
 char *printPath(const PathLanguage &language, zelPath path, zelHandle handle, std::int32_t flags, zelAllocFunc alloc,
-                void *context, bool isTransient = false);
+                void *context, TransientNames *transient = nullptr);
 
 } // namespace zeli
 

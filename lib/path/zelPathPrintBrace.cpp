@@ -75,7 +75,7 @@ void printItem(PrintRun &run, Cursor cursor) {
   } else if (kind == kindListEnd) {
     printListEnd(run);
   } else if (kind != kindSharedMark && kind != kindTopMark && !isLib(kind)) {
-    run.put(unprintable);
+    run.putUnprintable(cursor);
   }
 }
 

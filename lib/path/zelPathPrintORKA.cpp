@@ -102,7 +102,7 @@ void printItem(PrintRun &run, Cursor cursor) {
     break;
   default:
     if (kind != kindSharedMark && !isLib(kind))
-      run.put(unprintable);
+      run.putUnprintable(cursor);
   }
 }
 

@@ -56,7 +56,7 @@ void printItem(PrintRun &run, Cursor cursor) {
   } else if (isLib(kind)) {
     printLib(run, cursor);
   } else if (kind != kindListEnd && kind != kindSharedMark && kind != kindTopMark) {
-    run.put(unprintable);
+    run.putUnprintable(cursor);
   }
 }
 

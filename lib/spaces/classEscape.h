@@ -14,6 +14,9 @@ struct ClassEscapeRules {
   static constexpr PlainWords plainWords() { return anyWord; }
 
   bool isLegal(const Name &name) const;
+  zelRefusal explain(const Name &name) const {
+    return explainLength(name, [&] { return explainFirst(name, 0, escape.literal); });
+  }
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
   Ident read(const Name &name, const Setting &setting, Text &work) const;
 };

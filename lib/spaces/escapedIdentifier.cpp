@@ -18,23 +18,43 @@ bool EscapedIdentifierRules::isLegal(const Name &name) const {
   if (!isNameLength(name))
     return false;
   if (name[0] == '\\')
-    return isEscaped(name) && allOf(content(name), escape.literal);
+    return isEscaped(name) && (kindsIn(content(name)) & traitNotGraphic) == 0;
   return isNormal(name);
+}
+
+zelRefusal EscapedIdentifierRules::explain(const Name &name) const {
+  return explainLength(name, [&]() -> zelRefusal {
+    if (name[0] == '\\' && !isEscaped(name))
+      return {ZEL_REASON_NO_WHITE_SPACE, static_cast<std::uint32_t>(name.size())};
+    if (name[0] == '\\') {
+      const zelRefusal inside = explainFirst(Name(content(name)), 0, escape.literal);
+      return {inside.reason, inside.position + 1};
+    }
+    if (!first.has(name[0]))
+      return {ZEL_REASON_ILLEGAL_FIRST_CHARACTER, 0};
+    return isKeyword(name) ? zelRefusal{ZEL_REASON_RESERVED_WORD, 0} : explainFirst(name, 1, normal);
+  });
 }
 
 Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const bool folds = foldsCase(ident, setting) && ident.body.has(traitUpper);
+  const auto isReserved = [&setting](const Name &word) {
+    return setting.isReserved != nullptr && setting.isReserved(word);
+  };
   if (isNormal(ident.body)) {
-    if (!folds)
+    if (!folds && !isReserved(ident.body))
       return ident.body;
-    copyLowered(work, ident.body);
-    if (!isKeyword(Name(work.view())))
-      return work.view();
-    work.size = 0;
+    if (folds) {
+      copyLowered(work, ident.body);
+      const Name lowered(work.view(), 0);
+      if (!isKeyword(lowered) && !isReserved(lowered))
+        return lowered;
+      work.size = 0;
+    }
   }
 
   work.put('\\');
-  encode(work, ident.body, escape, spelling, folds);
+  spell(work, ident.body, escape, spelling, folds);
   work.put(' ');
   return work.view();
 }
@@ -47,7 +67,7 @@ Ident EscapedIdentifierRules::read(const Name &name, const Setting &, Text &work
     return {'S', name};
   if (!isEscaped(name))
     return refuseIdent();
-  return decodeIdent(work, {content(name), name.look.traits}, escape, 0, quotesNothing);
+  return decodeIdent(work, {content(name), name.look.traits}, escape);
 }
 
 } // namespace zeli

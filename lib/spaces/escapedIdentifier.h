@@ -11,7 +11,7 @@ namespace zeli {
 struct EscapedIdentifierRules {
   ByteSet first;
   ByteSet normal;
-  HexEscape escape; // its literal bytes are the ones that may stand in an escaped identifier
+  HexEscape escape; // its literal bytes, the graphic ones, may stand in an escaped identifier
   Spelling spelling;
   bool (*isKeyword)(const Name &word);
 
@@ -21,6 +21,7 @@ struct EscapedIdentifierRules {
 
   bool isNormal(const Name &name) const;
   bool isLegal(const Name &name) const;
+  zelRefusal explain(const Name &name) const;
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
   Ident read(const Name &name, const Setting &setting, Text &work) const;
 };

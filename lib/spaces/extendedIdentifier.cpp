@@ -9,6 +9,9 @@ bool isCompatibility(std::int32_t state) { return state == ZEL_MAP_VHDL || state
 } // namespace
 
 bool isLegalExtended(Bytes name, const ByteSet &escapable) {
+  if (name.size() >= 2 && isExtended(name) &&
+      (kindsIn(extendedContent(name)) & (traitBackslash | traitNotGraphic)) == 0)
+    return true;
   bool isClosing = false;
   for (const char c : from(name, 1)) {
     if (!escapable.has(c))
@@ -21,9 +24,9 @@ bool isLegalExtended(Bytes name, const ByteSet &escapable) {
   return isClosing;
 }
 
-Bytes writeExtended(Text &work, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+Bytes writeExtended(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds) {
   work.put('\\');
-  encode(work, skipForce(body), escape, spelling, folds);
+  spell(work, {skipForce(body), body.look.traits}, escape, spelling, folds);
   work.put('\\');
   return work.view();
 }
@@ -39,6 +42,29 @@ bool ExtendedIdentifierRules::isLegal(const Name &name) const {
   return name[0] == '\\' ? isLegalExtended(name, escape.literal) : isNormal(name);
 }
 
+zelRefusal ExtendedIdentifierRules::explain(const Name &name) const {
+  return explainLength(name, [&]() -> zelRefusal {
+    const auto at = [](std::int32_t reason, std::size_t i) {
+      return zelRefusal{reason, static_cast<std::uint32_t>(i)};
+    };
+    if (name[0] == '\\') {
+      bool isClosing = false;
+      for (std::size_t i = 1; i < name.size(); ++i) {
+        if (!escape.literal.has(name[i]) || (isClosing && name[i] != '\\'))
+          return at(isClosing ? ZEL_REASON_UNEXPECTED_CHARACTER : ZEL_REASON_ILLEGAL_CHARACTER, i);
+        isClosing = name[i] == '\\' && !isClosing;
+      }
+      return at(isClosing ? ZEL_REASON_NOT_CONVERTED : ZEL_REASON_UNTERMINATED_ESCAPE, isClosing ? 0 : name.size());
+    }
+    if (!first.has(name[0]))
+      return at(ZEL_REASON_ILLEGAL_FIRST_CHARACTER, 0);
+    for (std::size_t i = 1; i < name.size(); ++i)
+      if (!normal.has(name[i]) || (name[i] == '_' && (name[i - 1] == '_' || i + 1 == name.size())))
+        return at(ZEL_REASON_ILLEGAL_CHARACTER, i);
+    return at(isKeyword(name) ? ZEL_REASON_RESERVED_WORD : ZEL_REASON_NOT_CONVERTED, 0);
+  });
+}
+
 Bytes ExtendedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const std::int32_t state = mapStateOf(setting);
   const bool isSensitive = ident.isCaseSensitive();
@@ -46,7 +72,7 @@ Bytes ExtendedIdentifierRules::write(const Ident &ident, const Setting &setting,
 
   // Capitals matter in a case-sensitive name; under VHDL and TANDEM compatibility in a case-insensitive one.
   const bool caseMatters = (state != ZEL_MAP_MATCH || ident.marker == 'F') && isSensitive != isCompatibility(state);
-  const bool isBasic = isNormal(body);
+  const bool isBasic = isNormal(body) && (setting.isReserved == nullptr || !setting.isReserved(body));
   const bool keepsCapitals = !caseMatters || !body.has(traitUpper);
   if (isBasic && keepsCapitals && (!isSensitive || !isForce(body)))
     return body;

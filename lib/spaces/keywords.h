@@ -1,5 +1,5 @@
-// Reserved words: one array an initial letter, as the language lists them, and an index that finds a word by its first
-// eight bytes.
+// Reserved words: one array an initial letter, as the language lists them, or one list; and an index that finds a word
+// by its first eight bytes.
 #ifndef ZEL_SPACES_KEYWORDS_H
 #define ZEL_SPACES_KEYWORDS_H
 
@@ -57,17 +57,16 @@ public:
       for (std::int32_t i = 0; i < array.count; ++i) {
         const Bytes word = array.words[i];
         // In an array that is not in order the search misses some words, which are then no keywords.
-        if (word[0] != array.letter || !tableHas(array.words, array.count, word))
-          continue;
-        std::uint64_t head = 0;
-        for (std::size_t at = 0; at < headBytes && at < word.size(); ++at)
-          head |= std::uint64_t{static_cast<unsigned char>(word[at])} << (8 * at);
-        entries[++used] = {head, word.size() > headBytes ? word.data() + headBytes : ""};
-        std::size_t slot = slotOf(head);
-        while (slots[slot] != 0)
-          slot = (slot + 1) % slotCount;
-        slots[slot] = used;
+        if (word[0] == array.letter && tableHas(array.words, array.count, word))
+          enter(word, ++used);
       }
+  }
+
+  // A list without regard to letters and order.
+  constexpr explicit KeywordTable(const char *const (&words)[count]) {
+    std::uint16_t used = 0;
+    for (const char *const word : words)
+      enter(word, ++used);
   }
 
   // As stored.
@@ -96,6 +95,17 @@ private:
 
   static constexpr std::size_t slotOf(std::uint64_t head) {
     return static_cast<std::size_t>(head * 0x9E3779B97F4A7C15U >> (64 - slotBits));
+  }
+
+  constexpr void enter(Bytes word, std::uint16_t entry) {
+    std::uint64_t head = 0;
+    for (std::size_t at = 0; at < headBytes && at < word.size(); ++at)
+      head |= std::uint64_t{static_cast<unsigned char>(word[at])} << (8 * at);
+    entries[entry] = {head, word.size() > headBytes ? word.data() + headBytes : ""};
+    std::size_t slot = slotOf(head);
+    while (slots[slot] != 0)
+      slot = (slot + 1) % slotCount;
+    slots[slot] = entry;
   }
 
   template <bool folds> bool find(Bytes word, std::uint64_t head) const {

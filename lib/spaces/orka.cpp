@@ -40,6 +40,15 @@ struct ORKARules {
     return true;
   }
 
+  zelRefusal explain(const Name &name) const {
+    return explainLength(name, [&]() -> zelRefusal {
+      std::size_t i = 0;
+      while (i < name.size() && (indexGroup(name, i) != 0 || escape.literal.has(name[i])))
+        i += std::max<std::size_t>(indexGroup(name, i), 1);
+      return {i < name.size() ? ZEL_REASON_ILLEGAL_CHARACTER : ZEL_REASON_NOT_CONVERTED, static_cast<std::uint32_t>(i)};
+    });
+  }
+
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
     const bool folds = foldsCase(ident, setting);
     const Name &body = ident.body;
@@ -60,7 +69,7 @@ struct ORKARules {
   }
 
   Ident read(const Name &name, const Setting &, Text &work) const {
-    return isLegal(name) ? decodeIdent(work, name, escape, 0, quotesNothing) : refuseIdent();
+    return isLegal(name) ? decodeIdent(work, name, escape) : refuseIdent();
   }
 };
 
@@ -78,6 +87,12 @@ struct EscORKARules {
     if (!isNameLength(name))
       return false;
     return name[0] == '\\' ? isLegalExtended(name, readerEscape.literal) : rules.isLegal(name);
+  }
+
+  zelRefusal explain(const Name &name) const {
+    if (isExtended(name) || name.empty() || name[0] != '\\')
+      return rules.explain(name);
+    return {ZEL_REASON_UNTERMINATED_ESCAPE, static_cast<std::uint32_t>(name.size())};
   }
 
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const {

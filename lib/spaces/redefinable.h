@@ -56,6 +56,9 @@ struct RedefinableRules {
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
     return under(setting.handle, [&](const BackslashRules &rules) { return rules.write(ident, setting, work); });
   }
+  zelRefusal explain(const Name &name) const {
+    return under(nullptr, [&](const BackslashRules &rules) { return rules.explain(name); });
+  }
   bool isPlain(char c) const {
     return under(nullptr, [c](const BackslashRules &rules) { return rules.plain.has(c); });
   }
@@ -71,9 +74,9 @@ struct RedefinableRules {
 };
 
 template <const auto &rules, typename Rules = std::remove_cvref_t<decltype(rules)>>
-constexpr Operations redefinableOperationsOf = {operationsOf<rules>.isLegal, operationsOf<rules>.read,
-                                                operationsOf<rules>.write,   rules.plainWords(),
-                                                Rules::namespaceHandle,      Rules::makeRules};
+constexpr Operations redefinableOperationsOf = {
+    operationsOf<rules>.isLegal, operationsOf<rules>.read, operationsOf<rules>.write, operationsOf<rules>.explain,
+    rules.plainWords(),          Rules::namespaceHandle,   Rules::makeRules};
 
 } // namespace zeli
 

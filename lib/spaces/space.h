@@ -17,6 +17,7 @@ constexpr bool hasPrefix(std::uint64_t head) {
 struct Setting {
   std::int32_t mapState = ZEL_MAP_UNSET; // ZEL_MAP_UNSET stands for that of the process
   zelHandle handle = nullptr;            // where a file may redefine separators; null stands for the current one
+  bool (*isReserved)(const Name &word) = nullptr; // words that a writer avoids beside the keywords of the space
 };
 
 inline std::int32_t mapStateOf(const Setting &setting) {
@@ -33,14 +34,31 @@ inline bool foldsCase(const Ident &ident, const Setting &setting) {
 // Which words are names of a space as they stand, in the default mapping state: those without some traits, and the
 // keywords. (A word with a prefix that some space uses is never one.)
 struct PlainWords {
-  std::uint8_t notRead;
-  std::uint8_t notWrittenSensitive; // of a case-sensitive Ident
-  std::uint8_t notWrittenInsensitive;
+  Traits notRead;
+  Traits notWrittenSensitive; // of a case-sensitive Ident
+  Traits notWrittenInsensitive;
   char readAs; // the marker of their Idents; NUL where it depends on capitals
   bool (*isKeyword)(const Name &word) = nullptr;
   bool (*isSettled)() = nullptr; // whether isKeyword depends on nothing that its first call determines
 };
 constexpr PlainWords anyWord = {0, 0, traitUpper, '\0'};
+
+// The reasons that every space has for a refusal, or what it says itself of a name of the right length.
+template <typename Explain> zelRefusal explainLength(const Name &name, Explain explain) {
+  if (name.empty())
+    return {ZEL_REASON_EMPTY, 0};
+  if (name.size() > maxName)
+    return {ZEL_REASON_TOO_LONG, maxName};
+  return explain();
+}
+
+// The first byte from start on that is not in set.
+inline zelRefusal explainFirst(const Name &name, std::size_t start, const ByteSet &set) {
+  std::size_t i = start;
+  while (i < name.size() && set.has(name[i]))
+    ++i;
+  return {i == name.size() ? ZEL_REASON_NOT_CONVERTED : ZEL_REASON_ILLEGAL_CHARACTER, static_cast<std::uint32_t>(i)};
+}
 
 struct BackslashRules;
 struct Separators;
@@ -51,6 +69,7 @@ struct Operations {
   bool (*isLegal)(const Name &name, const Setting &setting);
   Ident (*read)(const Name &name, const Setting &setting, Text &work);
   Bytes (*write)(const Ident &ident, const Setting &setting, Text &work);
+  zelRefusal (*explain)(const Name &name); // why and where a name that is not read is refused
   PlainWords plainWords;
   zelHandle &(*currentHandle)() = nullptr;                              // where a file may redefine separators
   BackslashRules (*rulesUnder)(const Separators &separators) = nullptr; // likewise
@@ -68,7 +87,7 @@ constexpr Operations operationsOf = {
     [](const Name &name, const Setting &) { return rules.isLegal(name); },
     [](const Name &name, const Setting &setting, Text &work) { return rules.read(name, setting, work); },
     [](const Ident &ident, const Setting &setting, Text &work) { return rules.write(ident, setting, work); },
-    rules.plainWords()};
+    [](const Name &name) { return rules.explain(name); }, rules.plainWords()};
 
 } // namespace zeli
 

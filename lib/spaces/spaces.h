@@ -54,6 +54,8 @@ enum class SpaceId { ZEL_SPACES(ZEL_SPACE_NUMBER, ZEL_NO_ALIAS) count, none = co
 ZEL_SPACES(ZEL_SPACE_NAMES, ZEL_NO_ALIAS)
 #undef ZEL_SPACE_NAMES
 
+extern const Operations vhdl93Names; // VHDL's, whatever the VHDL mode of the process
+
 struct Space {
   SpaceId id;
   const char *lookupName;

@@ -95,6 +95,10 @@ struct VellumRules {
            (name.isWord() || (name[0] == '\\' ? isLegalExtended(name, escape.literal) : isNormal(name)));
   }
 
+  zelRefusal explain(const Name &name) const {
+    return explainLength(name, [&] { return explainFirst(name, 0, escape.literal); });
+  }
+
   // Only a name between backslashes has case. In the mapping state MATCH none needs it, and the force prefix alone
   // tells that a name stood between them.
   Bytes write(const Ident &ident, const Setting &setting, Text &work) const {

@@ -84,15 +84,21 @@ bool isSettled() { return vhdlMode() != 0 || environmentMode.load(std::memory_or
 
 constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword, isSettled);
 
+// Without a mode: the words of 1993, whatever the process asks for.
+bool isKeyword93(const Name &word) { return keywordTable.hasFolded(word); }
+
+constexpr ExtendedIdentifierRules rules93 = vhdlFamily(isKeyword93);
+
 } // namespace
 
 const Operations zeli::vhdlNames = operationsOf<rules>;
+const Operations zeli::vhdl93Names = operationsOf<rules93>;
 
 ZEL_EXPORT_LEGAL(zelIsLegalVHDL, rules)
 ZEL_EXPORT_WRITER(zelIdentToVHDL, rules)
 ZEL_EXPORT_READER(zelVHDLToIdent, rules)
 ZEL_EXPORT_WORD(zelIsLegalVHDLNormal, rules.isNormal)
-ZEL_EXPORT_WORD(zelIsVHDLKeyword, isKeyword)
+ZEL_EXPORT_KEYWORD(zelIsVHDLKeyword, isKeyword)
 ZEL_EXPORT_CHARACTER(zelIsVHDLFirstChar, rules.first)
 ZEL_EXPORT_CHARACTER(zelIsVHDLNormalChar, rules.normal)
 ZEL_EXPORT_CHARACTER(zelIsVHDLEscapableChar, rules.escape.literal)

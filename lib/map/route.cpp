@@ -1,0 +1,68 @@
+#include "map/route.h"
+
+#include "path/zelPathParse.h"
+
+using namespace zeli;
+
+namespace {
+
+// Marks that stand for nothing else in any grammar.
+bool areMarks(const Punctuation &marks) {
+  constexpr ByteSet others = wordChar | chars("+-:\\");
+  const auto [divider, busOpen, busClose] = marks;
+  return !others.has(divider) && !others.has(busOpen) && !others.has(busClose) && divider != busOpen &&
+         divider != busClose && busOpen != busClose && divider != '\0';
+}
+
+// Whether a handle says nothing that a side does not.
+bool isPlainHandle(zelHandle handle, const Operations &names, const Punctuation &marks) {
+  if (names.currentHandle != nullptr && names.currentHandle() != nullptr)
+    return false;
+  return handle == nullptr || handle->kind == builtInHandle ||
+         (areMarks(marks) && handle->names == &names && handle->rules->takesWords);
+}
+
+bool isSettled(const Operations *names) {
+  return names == nullptr || names->plainWords.isSettled == nullptr || names->plainWords.isSettled();
+}
+
+} // namespace
+
+void Route::join() {
+  const PlainWords &target = to.names->plainWords;
+  unless = (tested != nullptr ? tested->plainWords.notRead : 0) | from.names->plainWords.notRead |
+           (from.names->plainWords.readAs != 'I' ? target.notWrittenSensitive : target.notWrittenInsensitive);
+  auto *test = keywordTests;
+  for (const Operations *names : {tested, from.names, to.names})
+    if (names != nullptr && names->plainWords.isKeyword != nullptr &&
+        (test == keywordTests || test[-1] != names->plainWords.isKeyword))
+      *test++ = names->plainWords.isKeyword;
+  if (to.setting.isReserved != nullptr)
+    *test++ = to.setting.isReserved;
+  *test = nullptr;
+  if (from.language != nullptr && from.language->reader.grammar == parseVerilog)
+    unless |= traitDigitFirst;
+}
+
+bool zeli::routeOf(zelHandle from, zelHandle to, std::uint32_t printFlags, Route &route) {
+  if (zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
+    return false;
+  const PathLanguage &source = *from->language;
+  const PathLanguage &target = printingLanguage(*to->language);
+  const zelHandle fromHandle = separatingHandle(source, from);
+  const zelHandle toHandle = separatingHandle(target, to);
+  route.from = {.language = &source,
+                .names = source.names.read,
+                .setting = {.handle = fromHandle},
+                .marks = marksOf(fromHandle, source.reader.marks)};
+  route.to = {.language = &target,
+              .names = target.writer.names,
+              .setting = {.handle = toHandle},
+              .marks = marksOf(toHandle, target.writer.marks)};
+  route.tested = source.names.tested;
+  route.printFlags = printFlags;
+  route.join();
+  return isPlainHandle(fromHandle, *route.from.names, route.from.marks) &&
+         isPlainHandle(toHandle, *route.to.names, route.to.marks) && isSettled(route.tested) &&
+         isSettled(route.from.names) && isSettled(route.to.names);
+}

@@ -1,0 +1,174 @@
+// What a mapping answers.
+#include "map/itemPath.h"
+#include "map/levelPath.h"
+#include "map/mapping.h"
+
+using namespace zeli;
+
+namespace {
+
+Bytes refused(zelRefusal &refusal, std::int32_t reason, std::size_t position) {
+  refusal = {reason, static_cast<std::uint32_t>(position)};
+  return {};
+}
+
+// Whether a text is one word that stands as it is, a name or a path of one level.
+bool isPlainWord(const Route &route, const Name &text) {
+  const bool isElement = (route.from.element != '\0' || route.to.element != '\0') && route.isElement(true);
+  return !isElement && route.takesWords() && text.isWord() && isNameLength(text) && !text.has(route.unless) &&
+         !hasPrefix(text.head()) && !route.isKeyword(text);
+}
+
+// One name, with its element letter where it has one.
+Bytes mapName(const Route &route, const Name &given, MappingWork &work, zelRefusal &refusal) {
+  const bool isElement = (route.from.element != '\0' || route.to.element != '\0') && route.isElement(true);
+  Name name = given;
+  std::size_t start = 0;
+  if (isElement && route.from.element != '\0') {
+    if (given.empty() || toLower(given[0]) != toLower(route.from.element))
+      return refused(refusal, ZEL_REASON_NO_ELEMENT_LETTER, 0);
+    start = 1;
+    name = Name(from(given, 1));
+  }
+  if (const std::size_t nul = given.find('\0'); nul != Bytes::npos)
+    return refused(refusal, ZEL_REASON_ILLEGAL_CHARACTER, nul);
+  work.readWork.size = work.writeWork.size = 0;
+  const Ident ident = route.from.read(name, work.readWork);
+  if (ident.body.data() == nullptr) {
+    const zelRefusal inside = route.from.explain(*route.from.names, name);
+    return refused(refusal, inside.reason, start + inside.position);
+  }
+  if (!isNameLength(ident.body))
+    return refused(refusal, ident.body.empty() ? ZEL_REASON_NOT_CONVERTED : ZEL_REASON_TOO_LONG, start);
+  Bytes spelled = route.to.write(ident, work.writeWork);
+  const bool isLettered = isElement && route.to.element != '\0';
+  if (spelled.data() == nullptr)
+    return refused(refusal, ZEL_REASON_NOT_WRITABLE, start);
+  if (spelled.size() + (isLettered ? 1 : 0) > maxName)
+    return refused(refusal, ZEL_REASON_RESULT_TOO_LONG, start);
+  if (isLettered) {
+    work.items[0] = route.to.element;
+    std::memcpy(work.items + 1, spelled.data(), spelled.size());
+    spelled = {work.items, spelled.size() + 1};
+  }
+  return spelled;
+}
+
+// Whether the path object answers for a route as well as levels do.
+bool hasItems(const Route &route) {
+  return route.from.ownNames == nullptr && route.to.ownNames == nullptr && route.from.element == '\0' &&
+         route.to.element == '\0' && route.from.pinDelimiter == '\0' &&
+         (route.to.pinDelimiter == '\0' || route.kind != ZEL_KIND_PIN);
+}
+
+Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &work, zelRefusal &refusal) {
+  const Bytes result = work.levels.map(text, route);
+  if (result.data() != nullptr)
+    return result;
+  refusal = work.levels.refusal;
+  if (!hasItems(route) || text.size() > LevelPath::longest || std::memchr(text.data(), '\0', text.size()) != nullptr)
+    return {};
+  // The grammars want a NUL, which ends a text of a column only here.
+  std::memcpy(work.source, text.data(), text.size());
+  work.source[text.size()] = '\0';
+  TransientNames names = {.text = work.source,
+                          .read = route.from.names,
+                          .from = route.from.setting,
+                          .written = route.to.names,
+                          .to = route.to.setting};
+  const char *items = mapByItems(*route.from.language, handle, *route.to.language, route.to.setting.handle,
+                                 route.printFlags, names, nullptr, work.items);
+  if (items == nullptr && names.refusal.reason == ZEL_REASON_NONE)
+    names.refusal = {errno == ENOMEM ? ZEL_REASON_NO_MEMORY : ZEL_REASON_RESULT_TOO_LONG, 0};
+  refusal = names.refusal;
+  return refusal.reason == ZEL_REASON_NONE ? Bytes(items) : Bytes{};
+}
+
+char *finish(Bytes result, const zelRefusal &refusal, zelAllocFunc alloc, void *context) {
+  if (result.data() == nullptr) {
+    errno = refusal.reason == ZEL_REASON_NO_MEMORY ? ENOMEM : EINVAL;
+    return nullptr;
+  }
+  return makeString(result, alloc, context);
+}
+
+char *applyLeniently(const zelMappingRecord &mapping, const char *text, zelAllocFunc alloc, void *context) {
+  const Route &route = mapping.route;
+  if (!mapping.isNames)
+    return zelPathMapperEx(text, mapping.fromHandle, mapping.toHandle, route.printFlags, nullptr, nullptr, alloc,
+                           context);
+  MappingWork work;
+  zelRefusal refusal = {};
+  return finish(mapName(route, Name(nameBytes(text)), work, refusal), refusal, alloc, context);
+}
+
+} // namespace
+
+Bytes zeli::mapText(const zelMappingRecord &mapping, const Route &route, Bytes text, MappingWork &work,
+                    zelRefusal &refusal) {
+  refusal = {};
+  const Name given(text);
+  if (isPlainWord(route, given))
+    return text;
+  if (mapping.isNames)
+    return mapName(route, given, work, refusal);
+  const zelHandle handle = &route == &mapping.resultKey ? mapping.toHandle : mapping.fromHandle;
+  return mapPath(route, handle, text, work, refusal);
+}
+
+char *zelMappingApply(zelMapping mapping, const char *text, zelAllocFunc alloc, void *context) noexcept {
+  if (mapping == nullptr || text == nullptr) {
+    errno = EINVAL;
+    return nullptr;
+  }
+  if (mapping->isLenient)
+    return applyLeniently(*mapping, text, alloc, context);
+  MappingWork work;
+  zelRefusal refusal = {};
+  const Bytes result = mapText(*mapping, mapping->route, {text, strnlen(text, LevelPath::longest + 1)}, work, refusal);
+  return finish(result, refusal, alloc, context);
+}
+
+std::int32_t zelDiagnose(zelMapping mapping, const char *text, zelRefusal *refusal) noexcept {
+  zelRefusal found = {ZEL_REASON_BAD_ARGUMENT, 0};
+  if (mapping != nullptr && text != nullptr) {
+    const int error = errno;
+    MappingWork work;
+    mapText(*mapping, mapping->route, {text, strnlen(text, LevelPath::longest + 1)}, work, found);
+    errno = error;
+  }
+  if (refusal != nullptr)
+    *refusal = found;
+  return found.reason;
+}
+
+char *zelMappingKey(zelMapping mapping, const char *text, zelAllocFunc alloc, void *context) noexcept {
+  if (mapping == nullptr || text == nullptr) {
+    errno = EINVAL;
+    return nullptr;
+  }
+  MappingWork work;
+  zelRefusal refusal = {};
+  const Bytes key = mapText(*mapping, mapping->sourceKey, {text, strnlen(text, LevelPath::longest + 1)}, work, refusal);
+  return finish(key, refusal, alloc, context);
+}
+
+std::int32_t zelMappingCheck(zelMapping mapping, const char *text, const char *result) noexcept {
+  if (mapping == nullptr || text == nullptr || result == nullptr)
+    return ZEL_CHECK_UNREADABLE;
+  MappingWork sourceWork;
+  MappingWork resultWork;
+  zelRefusal refusal = {};
+  const Bytes source =
+      mapText(*mapping, mapping->sourceKey, {text, strnlen(text, LevelPath::longest + 1)}, sourceWork, refusal);
+  const Bytes back =
+      mapText(*mapping, mapping->resultKey, {result, strnlen(result, LevelPath::longest + 1)}, resultWork, refusal);
+  if (source.data() == nullptr || back.data() == nullptr)
+    return ZEL_CHECK_UNREADABLE;
+  if (source == back)
+    return ZEL_CHECK_SAME;
+  const bool isFolded =
+      source.size() == back.size() &&
+      std::equal(source.begin(), source.end(), back.begin(), [](char a, char b) { return toLower(a) == toLower(b); });
+  return isFolded ? ZEL_CHECK_CASE_LOST : ZEL_CHECK_OTHER;
+}
