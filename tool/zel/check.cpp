@@ -137,7 +137,7 @@ int runCheck(const MappingSettings &mappingSettings, const LineSettings &lineSet
   Header header(lineSettings, format);
   bool hasFailed = false;
   runBlocks(
-      settings.files, format, std::move(works), [&](const LineReader &, Block &block) { return header(block); },
+      lineSettings.files, format, std::move(works), [&](const LineReader &, Block &block) { return header(block); },
       [&](const LineReader &reader, Block &block) {
         if (lineSettings.isQuiet)
           block.output.size = 0;
