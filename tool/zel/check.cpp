@@ -115,9 +115,9 @@ private:
 
 } // namespace
 
-int runCheck(const MappingSettings &given, const LineSettings &settings) {
-  const LineFormat format = lineFormat(settings);
-  MappingSettings own = given;
+int runCheck(const MappingSettings &mappingSettings, const LineSettings &lineSettings) {
+  const LineFormat format = lineFormat(lineSettings);
+  MappingSettings own = mappingSettings;
   own.to = own.from;
   own.toSeparators = own.fromSeparators;
   own.toLike = own.fromLike;
@@ -131,15 +131,15 @@ int runCheck(const MappingSettings &given, const LineSettings &settings) {
   rules.hasTest = isOrdinary && (own.isNames || !factsOf(rules.space).hasPaths);
 
   std::vector<Work> works;
-  for (std::size_t i = 0; i < jobCount(settings); ++i)
+  for (std::size_t i = 0; i < jobCount(lineSettings); ++i)
     works.emplace_back([checker = std::make_shared<Checker>(rules, format)](Block &block) { (*checker)(block); });
-  Progress progress(settings.isQuiet, false, '\n');
-  Header header(settings, format);
+  Progress progress(lineSettings.isQuiet, false, '\n');
+  Header header(lineSettings, format);
   bool hasFailed = false;
   runBlocks(
-      settings.files, format, std::move(works), [&](const LineReader &, Block &block) { return header(block); },
+      lineSettings.files, format, std::move(works), [&](const LineReader &, Block &block) { return header(block); },
       [&](const LineReader &reader, Block &block) {
-        if (settings.isQuiet)
+        if (lineSettings.isQuiet)
           block.output.size = 0;
         return progress.finish(reader, block);
       },

@@ -321,8 +321,9 @@ int explainReaders(const MappingSettings &settings, const std::string &name) {
 
 } // namespace
 
-int runExplain(const MappingSettings &settings, const std::string &name) {
-  const int status = settings.from.empty() ? explainReaders(settings, name) : explainFrom(settings, name);
+int runExplain(const MappingSettings &mappingSettings, const std::string &name) {
+  const int status =
+      mappingSettings.from.empty() ? explainReaders(mappingSettings, name) : explainFrom(mappingSettings, name);
   return closeOutput() == Written::all ? status : statusFailed;
 }
 

@@ -151,33 +151,32 @@ private:
 
 } // namespace
 
-int runMap(const MappingSettings &mappingSettings, const LineSettings &settings) {
-  const LineFormat format = lineFormat(settings);
+int runMap(const MappingSettings &mappingSettings, const LineSettings &lineSettings) {
+  const LineFormat format = lineFormat(lineSettings);
   const Mapping mapping = makeMapping(mappingSettings);
-  const bool isWhole = settings.field.empty() && !settings.isChecked &&
-                       (settings.onError == OnError::empty || settings.onError == OnError::keep);
+  const bool isWhole = lineSettings.field.empty() && !lineSettings.isChecked &&
+                       (lineSettings.onError == OnError::empty || lineSettings.onError == OnError::keep);
   std::vector<Work> works;
-  for (std::size_t i = 0; i < jobCount(settings); ++i) {
+  for (std::size_t i = 0; i < jobCount(lineSettings); ++i) {
     if (isWhole)
-      works.emplace_back([own = std::make_shared<WholeLines>(mapping.get(), format, settings.onError)](Block &block) {
-        (*own)(block);
-      });
+      works.emplace_back([own = std::make_shared<WholeLines>(mapping.get(), format, lineSettings.onError)](
+                             Block &block) { (*own)(block); });
     else
       works.emplace_back(
-          [own = std::make_shared<ChosenTexts>(mapping.get(), format, settings)](Block &block) { (*own)(block); });
+          [own = std::make_shared<ChosenTexts>(mapping.get(), format, lineSettings)](Block &block) { (*own)(block); });
   }
-  Progress progress(settings.isQuiet, true, format.end);
-  Header header(settings, format);
+  Progress progress(lineSettings.isQuiet, true, format.end);
+  Header header(lineSettings, format);
   std::uint64_t bytes = 0;
   bool hasFailed = false;
   runBlocks(
-      settings.files, format, std::move(works), [&](const LineReader &, Block &block) { return header(block); },
+      lineSettings.files, format, std::move(works), [&](const LineReader &, Block &block) { return header(block); },
       [&](const LineReader &reader, Block &block) {
         bytes += block.size;
         return progress.finish(reader, block);
       },
       hasFailed);
-  progress.end(settings.hasStats, bytes);
+  progress.end(lineSettings.hasStats, bytes);
   if (hasFailed || progress.hasFailed() || closeOutput() != Written::all)
     return statusFailed;
   return progress.isRefused() ? statusRefused : statusDone;

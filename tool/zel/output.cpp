@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cmath>
 #include <cstdio>
 #include <poll.h>
 #include <unistd.h>
@@ -24,7 +25,7 @@ constexpr double barEvery = 0.1;
 
 std::string timeLeft(double seconds) {
   std::array<char, 48> text{};
-  const auto whole = static_cast<unsigned long>(seconds + 0.5);
+  const auto whole = static_cast<unsigned long>(std::lround(seconds));
   if (whole >= 3600)
     std::snprintf(text.data(), text.size(), "%lu:%02lu:%02lu", whole / 3600, whole / 60 % 60, whole % 60);
   else

@@ -80,9 +80,9 @@ std::uint32_t fieldNumber(const std::string &field);
 std::size_t jobCount(const LineSettings &settings);
 
 // --- The commands; each returns a Status and throws Complaints.
-int runMap(const MappingSettings &mapping, const LineSettings &lines);
-int runCheck(const MappingSettings &mapping, const LineSettings &lines);
-int runExplain(const MappingSettings &mapping, const std::string &name);
+int runMap(const MappingSettings &mappingSettings, const LineSettings &lineSettings);
+int runCheck(const MappingSettings &mappingSettings, const LineSettings &lineSettings);
+int runExplain(const MappingSettings &mappingSettings, const std::string &name);
 int runSpaces();
 
 } // namespace tool
