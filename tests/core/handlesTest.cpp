@@ -1,18 +1,25 @@
 // The handles: the separators in force, and which a file may redefine.
 #include "path/languages.h"
-#include "support/rules.h"
-
-#include <algorithm>
+#include "support/spaces.h"
 
 namespace {
-// Pin delimiter, divider, bus brackets; flat Tessel has only these. From Gcf on, a file may redefine them.
-const std::vector<Row> builtIns = rowsOf(R"(ORKA→//<> Tessel→||[] Kirra→//[] KirraHDL→//[] Spice→//[] Verilog→..[]
-    VerilogAMS→//<> VHDL→::() VHDL87→::() VHDLAMS→::() Gcf→..<> Sdf→//[] Spf→:/[] Spef→//[] Def→//[] Lef→//[]
-    FlatTessel→[])");
-const zelHandle handles[] = {zelORKAHandle,    zelTesselHandle,     zelKirraHandle, zelKirraHDLHandle, zelSpiceHandle,
-                             zelVerilogHandle, zelVerilogAMSHandle, zelVHDLHandle,  zelVHDL87Handle,   zelVHDLAMSHandle,
-                             zelGcfHandle,     zelSdfHandle,        zelSpfHandle,   zelSpefHandle,     zelDefHandle,
-                             zelLefHandle,     zelFlatTesselHandle};
+const std::map<std::string, zelHandle> handles = {{"ORKA", zelORKAHandle},
+                                                  {"Tessel", zelTesselHandle},
+                                                  {"Kirra", zelKirraHandle},
+                                                  {"KirraHDL", zelKirraHDLHandle},
+                                                  {"Spice", zelSpiceHandle},
+                                                  {"Verilog", zelVerilogHandle},
+                                                  {"VHDL", zelVHDLHandle},
+                                                  {"VerilogAMS", zelVerilogAMSHandle},
+                                                  {"VHDL87", zelVHDL87Handle},
+                                                  {"VHDLAMS", zelVHDLAMSHandle},
+                                                  {"FlatTessel", zelFlatTesselHandle},
+                                                  {"Gcf", zelGcfHandle},
+                                                  {"Sdf", zelSdfHandle},
+                                                  {"Spf", zelSpfHandle},
+                                                  {"Spef", zelSpefHandle},
+                                                  {"Def", zelDefHandle},
+                                                  {"Lef", zelLefHandle}};
 const std::string none(4, '\0');
 
 // A new handle of a template, which is then freed.
@@ -26,16 +33,34 @@ void expectMade(zelHandle made, zelHandle builtIn, const std::string &separators
 }
 } // namespace
 
+// Pin delimiter, divider, bus brackets; flat Tessel has only these.
 TEST(Handle, takesWhatAFileRedefines) {
-  const zelHandle *next = handles;
-  for (const auto &[name, text] : builtIns) {
-    SCOPED_TRACE(name);
-    const zelHandle handle = *next++;
-    const bool isFixed = next <= std::find(handles, std::end(handles), zelGcfHandle);
-    const std::string separators = std::string(4 - text->size(), '\0') + *text;
+  for (Row &row : rowsOf(HERE, R"(
+    ORKA        //<>  fixed
+    Tessel      ||[]  fixed
+    Kirra       //[]  fixed
+    KirraHDL    //[]  fixed
+    Spice       //[]  fixed
+    Verilog     ..[]  fixed
+    VerilogAMS  //<>  fixed
+    VHDL        ::()  fixed
+    VHDL87      ::()  fixed
+    VHDLAMS     ::()  fixed
+    Gcf         ..<>  redefinable
+    Sdf         //[]  redefinable
+    Spf         :/[]  redefinable
+    Spef        //[]  redefinable
+    Def         //[]  redefinable
+    Lef         //[]  redefinable
+    FlatTessel  []    redefinable
+  )")) {
+    const std::string &name = row[0];
+    const zelHandle handle = handles.at(name);
+    const bool isFixed = row[2] == "fixed";
+    const std::string separators = std::string(4 - row[1].size(), '\0') + row[1];
     std::string defaults = "????";
     EXPECT_EQ(zelGetHandleDefaults(name.c_str(), defaults.data(), &defaults[1], &defaults[2], &defaults[3]), 1);
-    EXPECT_EQ(defaults, separators);
+    row.expect(separators, defaults, "the defaults");
     EXPECT_EQ(zelGetHandleDefaults(name.c_str(), nullptr, nullptr, nullptr, nullptr), 1);
     zelFreeHandle(handle); // to no effect
     for (const std::string &given : {none, separators}) {
@@ -43,7 +68,7 @@ TEST(Handle, takesWhatAFileRedefines) {
       for (std::size_t i = 0; i < 4; ++i) {
         const zelHandle made = makeHandle(zelGetHandle, name, std::string(given).replace(i, 1, "\xe9"));
         if (isFixed || separators[i] == '\0')
-          EXPECT_EQ(made, handle);
+          EXPECT_EQ(made, handle) << "for separator " << i;
         else
           expectMade(made, handle, std::string(separators).replace(i, 1, "\xe9"));
       }
@@ -69,8 +94,8 @@ TEST(Handle, needsTheNameOfALanguage) {
       expectMade(makeHandle(maker, name, std::string("..\0\0", 4)), zelLefHandle, "..[]");
     EXPECT_EQ(maker(nullptr, 0, 0, 0, 0), nullptr);
   }
-  for (const std::string &name : split("Ident VerilogA VerilogXM VerilogAX 44ORKA EscORKA Vellum Edif200 Edif300 "
-                                       "NVerilog Print Ascii Filesys VHDLX x")) {
+  for (const std::string &name : wordsOf("Ident VerilogA VerilogXM VerilogAX 44ORKA EscORKA Vellum Edif200 Edif300 "
+                                         "NVerilog Print Ascii Filesys VHDLX x")) {
     EXPECT_TRUE(!makeHandle(zelGetHandle, name, none) && !makeHandle(zelAllocHandle, name, none)) << name;
     EXPECT_EQ(zelGetHandleDefaults(name.c_str(), nullptr, nullptr, nullptr, nullptr), 0) << name;
   }

@@ -3,45 +3,49 @@
 
 namespace {
 
-// The bytes of every chunk in use, with a bar between chunks.
-std::string bytesOf(const zelPathRecord *path) {
-  std::string text;
-  for (const zelPathRecord *chunk = path; chunk != nullptr && chunk->used != 0; chunk = chunk->next) {
-    text += chunk == path ? "" : " |";
-    for (int i = 0; i < chunk->used; ++i)
-      text += (text.empty() ? "" : " ") + std::to_string(chunk->items[i]);
-  }
-  return text;
-}
-
-// One long number makes all numbers of its item long. An item does not straddle two chunks, nor do a marker and what it
-// marks.
+// A small number is one byte, 132 more than it is. One number beyond -4 to 123 makes all of its item long: the kind is
+// one more, and each number has three bytes, in base 128 from -200000 on. An item does not straddle two chunks, nor do
+// a marker and what it marks.
 TEST(PathModel, ItemsAreStoredAsKindAndNumbers) {
-  for (const Row &row : rowsOf(R"([-4]→2·128 [123]→2·255 [124]→3·188·155·140 [-5]→3·187·154·140 [-200000]→3·128·128·128
-           [1897151]→3·255·255·255 [-4:123]→4·128·255 [0:124]→5·192·154·140·188·155·140 [0:6:2]→6·132·138·134
-           [0:0:124]→7·192·154·140·192·154·140·188·155·140 <*2>→8·134 <*124>→9·188·155·140 {·,·}→11·10·12
-           ^Sa·Sb→18·27·28 @Sl.Sc·@Sl.Sc(Sv)→17·43·17·53
-           [0]·[1]·[2]·[3]·[4]·[5]·[6]·[0:200]→2·132·2·133·2·134·2·135·2·136·2·137·2·138·|·5·192·154·140·136·156·140
-           [0]·[0]·[0]·[0]·[0]·[0]·[0]·[0]·[0:1]→2·132·2·132·2·132·2·132·2·132·2·132·2·132·2·132·4·132·133
-           Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·@Sl.Sc(Sv)·@Sl.Sc→27·28·29·30·31·32·33·34·|·27·28·17·53·17·48
-           ,·,·,·,·,·,·,·,·,·,·,·,·,·,·,·,·,·,·^Sa→10·10·10·10·10·10·10·10·10·10·10·10·10·10·10·10·10·10·|·18·27)")) {
-    const Path path = built(row.input);
-    EXPECT_EQ(bytesOf(path.get()), row.result);
-    EXPECT_EQ(itemsOf(path.get()), row.input + (row.input == "[0:6:2]" ? " ?" : "")); // the walk trips over its step
-    EXPECT_EQ(flagsOf(path.get()), row.input.find('@') != std::string::npos ? "H" : "");
+  for (Row &row : rowsOf(HERE, R"(
+    [-4]                   2 128
+    [123]                  2 255
+    [124]                  3 188 155 140
+    [-5]                   3 187 154 140
+    [-200000]              3 128 128 128
+    [1897151]              3 255 255 255
+    [-4:123]               4 128 255
+    [0:124]                5 192 154 140 188 155 140
+    [0:6:2]                6 132 138 134               [0:6:2] ?  // the walk trips over its step
+    [0:0:124]              7 192 154 140 192 154 140 188 155 140
+    <*2>                   8 134
+    <*124>                 9 188 155 140
+    { , }                  11 10 12
+    ^Sa Sb                 18 27 28                    // a mark in front; the number of a slot is in the kind
+    @Sl.Sc @Sl.Sc(Sv)      17 43 17 53                 // two slots, then three
+    // What no longer fits goes to the next chunk: 19 bytes, eight slots.
+    [0] [1] [2] [3] [4] [5] [6] [0:200]           2 132 2 133 2 134 2 135 2 136 2 137 2 138 | 5 192 154 140 136 156 140
+    [0] [0] [0] [0] [0] [0] [0] [0] [0:1]         2 132 2 132 2 132 2 132 2 132 2 132 2 132 2 132 4 132 133
+    Sa Sa Sa Sa Sa Sa Sa Sa Sa Sa @Sl.Sc(Sv) @Sl.Sc  27 28 29 30 31 32 33 34 | 27 28 17 53 17 48
+    , , , , , , , , , , , , , , , , , , ^Sa       10 10 10 10 10 10 10 10 10 10 10 10 10 10 10 10 10 10 | 18 27
+  )")) {
+    const Path path = built(row[0]);
+    row.expect(row[1], internals::bytesOf(path.get()), "the chunks");
+    row.expect(row[2].empty() ? row[0] : row[2], itemsOf(path.get()), "the walk");
+    row.expect(row[0].find('@') != std::string::npos ? "hierarchy" : "", flagsOf(path.get()), "the flags");
   }
-  for (const std::string &outside : split("[-200001] [1897152] [-2147483648] [1897152:0] [0:0:-200001] <*1897152>")) {
+  for (const std::string &outside : wordsOf("[-200001] [1897152] [-2147483648] [1897152:0] [0:0:-200001] <*1897152>")) {
     errno = 0;
     const Path path = built("Sa " + outside + " Sb");
-    EXPECT_EQ(errno, EINVAL);
-    EXPECT_EQ(itemsOf(path.get()) + flagsOf(path.get()), "Sa SbE");
+    EXPECT_EQ(errno, EINVAL) << outside;
+    EXPECT_EQ(itemsOf(path.get()) + "; " + flagsOf(path.get()), "Sa Sb; error") << outside;
   }
 }
 
 // On request (and then kept as text when it fails), or for printing (and then lost when it fails). Verilog's plain
 // names have case, those of the other languages none where no capital says so.
 TEST(PathModel, NamesAreConvertedOnce) {
-  for (const std::string &source : sources) {
+  for (const std::string &source : pathLanguages) {
     SCOPED_TRACE(source);
     const char *const expected = source == "Verilog" || source == "VerilogAMS" || source == "KirraHDL" ? "Sa" : "Ia";
     const Path path = parse(source, "a");
@@ -61,61 +65,93 @@ TEST(PathModel, NamesAreConvertedOnce) {
   const Path illegal = parse("Sdf", "a.b/c"); // scans, but does not convert
   zelPathSetLocation(illegal.get(), 256);
   EXPECT_EQ(zelPathGetIdent(illegal.get()), nullptr);
-  EXPECT_EQ(itemsOf(illegal.get()) + flagsOf(illegal.get()), "a.b cEH");
+  EXPECT_EQ(itemsOf(illegal.get()) + "; " + flagsOf(illegal.get()), "a.b c; error hierarchy");
   EXPECT_EQ(zelStrToIdent(illegal.get(), 0), nullptr);
   EXPECT_EQ(itemsOf(illegal.get()), "- c");
-  illegal->flags |= zeli::languageMask << zeli::languageShift; // no language
+  internals::setNoLanguage(illegal.get());
   zelPathSetLocation(illegal.get(), 257);
   EXPECT_TRUE(zelPathGetIdent(illegal.get()) == nullptr && !zelStrToIdent(illegal.get(), 1) &&
               !zelStrToIdent(illegal.get(), 99));
-  EXPECT_STREQ(zelStrToIdent(parse("Def.<>", R"(a\<[.b)").get(), 0), "Ia<["); // with the separators of the path
+  EXPECT_STREQ(zelStrToIdent(parse("Def(.<>)", R"(a\<[.b)").get(), 0), "Ia<["); // with the separators of the path
 }
 
-// "path location→result item location": what setting gives, and the item behind with its location. p has items in the
-// bytes 0, 1 and 3; l has eight in the head.
+// The place set, what setting gives, and the item behind it with its place. "short" has items in the bytes 0, 1 and 3
+// of its one chunk, "long" has eight in the head.
 TEST(PathModel, Locations) {
-  const Path p = built("Sa [3] Sb");
-  const Path l = built(repeated("Sa ", 10));
-  zelPathGenStart(p.get());
-  EXPECT_TRUE(zelPathGetLocation(p.get()) == 0 && zelPathGetLocation(l.get()) == 456); // before the first, and nowhere
-  for (const Row &row :
-       rowsOf("p0→0·1·256 p256→1·2·257 p257→1·1·259 p259→1·13·456 p260→1·13·456 p265→4·13·456 "
-              "p512→4·13·456 p4294967295→4·13·456 p3→0·13·456 l262→1·1·263 l263→1·1·512 l512→1·1·513")) {
-    const zelPath path = row.input[0] == 'p' ? p.get() : l.get();
-    const auto result = zelPathSetLocation(path, static_cast<std::uint32_t>(std::stoul(row.input.substr(1))));
-    const std::string found = std::to_string(result) + ' ' + std::to_string(zelPathGenNext(path));
-    EXPECT_EQ(found + ' ' + std::to_string(zelPathGetLocation(path)), row.result) << row.input;
+  const std::map<int, std::string> items = {
+      {ZEL_ITEM_IDENT, "ident"}, {ZEL_ITEM_INDEX, "index"}, {ZEL_ITEM_END, "end"}};
+  const Path shortPath = built("Sa [3] Sb");
+  const Path longPath = built(repeated("Sa ", 10));
+  zelPathGenStart(shortPath.get());
+  EXPECT_EQ(zelPathGetLocation(shortPath.get()), 0U);  // before the first
+  EXPECT_EQ(zelPathGetLocation(longPath.get()), 456U); // nowhere
+  for (Row &row : rowsOf(HERE, R"(
+    short  0           0  ident 256
+    short  256         1  index 257
+    short  257         1  ident 259
+    short  259         1  end 456
+    short  260         1  end 456
+    short  265         4  end 456    // capped at the bytes of the chunk
+    short  512         4  end 456    // no such chunk
+    short  4294967295  4  end 456
+    short  3           0  end 456    // no chunk
+    long   262         1  ident 263
+    long   263         1  ident 512  // on to the next chunk
+    long   512         1  ident 513
+  )")) {
+    const zelPath path = row[0] == "short" ? shortPath.get() : longPath.get();
+    row.expect(row[2], std::to_string(zelPathSetLocation(path, static_cast<std::uint32_t>(std::stoul(row[1])))));
+    const int item = zelPathGenNext(path);
+    row.expect(row[3], items.at(item) + ' ' + std::to_string(zelPathGetLocation(path)));
   }
   zelPath found = nullptr;
-  EXPECT_TRUE(zeliPrevItem(l.get(), l->next, 0, &found) == 27 + 7 && found == l.get());
-  // Back by what the walk takes the last item to be, and looked for in the first chunk.
-  for (const Row &row : rowsOf("→0 Sa·[3]·Sb→259 Sa·[0:200]→257 Sa·[0:6:2]→258 Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa·Sa→455"))
-    EXPECT_EQ(std::to_string(zelPathGetLastLocation(built(row.input).get())), row.result) << row.input;
+  EXPECT_EQ(internals::lastItem(longPath.get(), internals::nextChunk(longPath.get()), &found), 27 + 7);
+  EXPECT_EQ(found, longPath.get());
 }
 
-// "items→index bytes level bytes": the results (chunk for the chunk) and the bytes left. The level is looked for in
-// front of the index's own kind.
+TEST(PathModel, LastLocation) {
+  for (Row &row : rowsOf(HERE, R"(
+    ""                             0
+    Sa [3] Sb                      259
+    Sa [0:200]                     257
+    Sa [0:6:2]                     258  // back by what the walk takes the last item to be
+    Sa Sa Sa Sa Sa Sa Sa Sa Sa Sa  455  // looked for in the first chunk
+  )"))
+    row.expect(row[1], std::to_string(zelPathGetLastLocation(built(row[0]).get())));
+}
+
+// What each call gives ("chunk" for the chunk) and the bytes then left. The level is looked for in front of the index's
+// own kind.
 TEST(PathModel, RemovalOfIndexesAndLevels) {
-  for (const Row &row : rowsOf(R"(Sa→25·1·chunk·0 Sa·[3]→chunk·2·-17·2 Sa·[300]→chunk·4·-16·4 Sa·[3:0]→chunk·3·-15·3
-           Sa·[0:6:2]→chunk·4·-13·4 Sa·<*2>→6·3·-11·3 Sa·}→10·2·-7·2 Sa·@Sl.Sc→42·3·25·3 →-2·0·-19·0)")) {
-    std::string found;
-    for (const auto remove : {zelPathRemoveIndex, zelPathRemoveLevel}) {
-      const Path path = built(row.input);
+  for (Row &row : rowsOf(HERE, R"(
+    // items    the index  the level
+    Sa          25 1       chunk 0
+    Sa [3]      chunk 2    -17 2
+    Sa [300]    chunk 4    -16 4
+    Sa [3:0]    chunk 3    -15 3
+    Sa [0:6:2]  chunk 4    -13 4
+    Sa <*2>     6 3        -11 3
+    Sa }        10 2       -7 2
+    Sa @Sl.Sc   42 3       25 3
+    ""          -2 0       -19 0
+  )")) {
+    const auto removed = [&](intptr_t (*remove)(zelPath)) {
+      const Path path = built(row[0]);
       const intptr_t result = remove(path.get());
-      found += (found.empty() ? "" : " ") +
-               (result == reinterpret_cast<intptr_t>(path.get()) ? "chunk" : std::to_string(result));
-      found += ' ' + std::to_string(path->used);
-    }
-    EXPECT_EQ(found, row.result) << row.input;
+      const bool isChunk = result == reinterpret_cast<intptr_t>(path.get());
+      return (isChunk ? "chunk" : std::to_string(result)) + ' ' + std::to_string(internals::bytesUsed(path.get()));
+    };
+    row.expect(row[1], removed(zelPathRemoveIndex), "zelPathRemoveIndex");
+    row.expect(row[2], removed(zelPathRemoveLevel), "zelPathRemoveLevel");
   }
   const Path cut = built("[0:6:2]");
   zelPathRemoveIndex(cut.get());
   EXPECT_EQ(itemsOf(cut.get()), "[0:6:-1]"); // where a byte of a number is gone
   const Path path = built(repeated("Sa ", 9));
-  EXPECT_EQ(zelPathRemoveLevel(path.get()), reinterpret_cast<intptr_t>(path->next));
+  EXPECT_EQ(zelPathRemoveLevel(path.get()), reinterpret_cast<intptr_t>(internals::nextChunk(path.get())));
   EXPECT_EQ(itemsOf(path.get()), repeated("Sa ", 7) + "Sa");
   zelPathAddIdent(path.get(), "Sb", 1); // into the chunk that was emptied
-  EXPECT_EQ(bytesOf(path.get()), "27 28 29 30 31 32 33 34 | 27");
+  EXPECT_EQ(internals::bytesOf(path.get()), "27 28 29 30 31 32 33 34 | 27");
 }
 
 // Also where the chunk that the walk stands on is taken from under it.
@@ -155,7 +191,7 @@ TEST(PathModel, RemovalFromALocation) {
     zelPathAddIdent(path, zelNewString("Sb", Memory::alloc, &memory), 0);
     EXPECT_EQ(itemsOf(path), repeated("Sa ", static_cast<std::size_t>(left)) + "Sb");
     zelFreePathFromLocation(path, 18, Memory::free, &memory); // behind the head's items: only what follows goes
-    EXPECT_EQ(path->used, std::min(left, 6)) << location;     // its slots stay taken
+    EXPECT_EQ(internals::bytesUsed(path), std::min(left, 6)) << location; // its slots stay taken
     zelFreePath(path, Memory::free, &memory);
     EXPECT_EQ(memory.live, 0);
   }
@@ -175,7 +211,9 @@ TEST(PathModel, ReleasesWhatItOwnsOnce) {
   zelPathAddStepRange(path, 0, 27, 35); // numbers are no items
   zelPathAddStepRange(path, 19, 200, 43);
   const int all = memory.live;
-  zelFreePathFromLocation(path->next, path->next->used, Memory::free, &memory); // nothing is left to release there
+  const zelPath second = internals::nextChunk(path);
+  const auto end = static_cast<std::uint32_t>(internals::bytesUsed(second));
+  zelFreePathFromLocation(second, end, Memory::free, &memory); // nothing is left to release there
   EXPECT_EQ(memory.live, all);
   zelPathRemoveFromLocation(path, behindMark, Memory::free, &memory);
   zelFreePath(path, Memory::free, &memory);

@@ -11,7 +11,7 @@ constexpr int threadCount = 8, rounds = 44;
 // Everything that one caller with separators of its own maps, through its own ring.
 std::vector<std::string> mapAll(std::size_t caller) {
   const auto separator = static_cast<unsigned char>("./|:_-#x"[caller]);
-  const std::vector<std::string> names = split(R"(clk Data_Out \a+b␣ \a␣b\ u1/u2 a#20b x[3] signal 2n3904 %Lib)");
+  const std::vector<std::string> names = wordsOf(R"(clk Data_Out \a+b␣ \a␣b\ u1/u2 a#20b x[3] signal 2n3904 %Lib)");
   std::vector<std::string> results;
   zelRing ring = nullptr;
   const auto keep = [&results](const char *text) { results.push_back(resultOf(text).value_or("(null)")); };
@@ -23,9 +23,9 @@ std::vector<std::string> mapAll(std::size_t caller) {
                                            {"Spef", &zelIdentToSpefWithHandle},
                                            {"Lef", &zelLefToIdentWithHandle}}) {
     const Handle handle(zelGetHandle(space, 0, separator, '(', ')'));
-    for (const std::string &ident : split("Stop IReg Sa/b Sa.b[3] Ix:y S#2341 Sa%20b F_\\ Sa|b<1> Sq{}"))
+    for (const std::string &ident : wordsOf("Stop IReg Sa/b Sa.b[3] Ix:y S#2341 Sa%20b F_\\ Sa|b<1> Sq{}"))
       keep(convertName(ident.c_str(), zelAllocRing, &ring, handle.get()));
-    for (const std::string &path : split(R"(top.u1.d[3:0] {2{a,b}} a[1:0].b[5:4] \u/1␣.x m.n[7])"))
+    for (const std::string &path : wordsOf(R"(top.u1.d[3:0] {2{a,b}} a[1:0].b[5:4] \u/1␣.x m.n[7])"))
       for (const std::uint32_t flags : {0U, 1U, 8U, 31U})
         keep(zelPathMapperEx(path.c_str(), nullptr, handle.get(), flags, "Verilog", nullptr, zelAllocRing, &ring));
   }

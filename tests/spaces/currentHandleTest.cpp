@@ -1,5 +1,7 @@
 // The spaces whose separators a file may redefine, under handles that do.
-#include "support/rules.h"
+#include "support/spaces.h"
+
+#include <memory>
 
 namespace {
 const struct Driven {
@@ -20,34 +22,77 @@ Handle handleOf(const std::string &space, const std::string &separators) {
 }
 } // namespace
 
+// Pin delimiter, divider and bus brackets; what is written under them and read again, or only read.
 TEST(CurrentHandle, decidesWhatIsEscaped) {
   const MapState state(ZEL_MAP_DEFAULT);
-  // Separators:Ident→as it is written→as that reads; or separators:name→as it reads.
-  const char *const rows[][2] = {
-      {"Sdf Spef Gcf Spf Def", R"(x/[]:Sxy→\xy→Ixy //o]:Soo→\o\o→Ioo X/[]:IX→x→Ix X/[]:SX→\X→SX x/[]:IX→\x→Ix
-       ␣/[]:Sa␣b→a\␣b→Ia␣b \/[]:Sa\b→a\\b→Ia\b ␁/[]:S␁→\␁→I␁)"},
-      {"Sdf Spef Gcf", R"(/x[]:Sxy→xy→Ixy //[c:Sc]→\c\]→Ic] #/[]:Sa#41→a\#2341→Ia#41 A/[]:S#41→\#41→I#41
-       2/[]:S#412→\#2341\2→I#412 1/[]:S#41→\#234\1→I#2341 ␣/[]:Sa#20→a\#20→Ia#20 %/[]:Sa%20→a\%20→Ia%20
-       é/[]:Sé→\#e9→Ié)"},
-      {"Spf", R"(/x[]:Sxy→\xy→Ixy //[c:Sc]→\c]→Ic] ./[]:Sa:b.→a:b\.→Ia:b. #/[]:Sa#b→a#b→Ia#b
-       #/[]:S\#41→\\#2341→I\#41 #/[]:S#2323→#232323→I#2323 A/[]:S#41→#41→I#41 é/[]:Sé→\#e9→I\é #/[]:\#41→IA)"},
-      {"Def", R"(/x[]:Sxy→xy→Ixy //[c:Sc]→\c]→Ic] .x[]:Sa/b.→a/b\.→Ia/b. %/[]:Sa%b→a%b→Ia%b %/[]:Sa%41→a%2541→Ia%41
-       %/[]:Sa%25→a%25→Ia%25 A/[]:S%41→%41→I%41 ;/[]:Sa;b→a\;b→Ia;b é/[]:Sé%e9→\é%e9→Ié%e9
-       //[]:Sé%e9→%e9%25e9→Ié%e9 x/[]:axb→Iaxb)"},
-      // A separator of LEF cannot stand plain, and the mark has no other form.
-      {"Lef", R"(x/[]:Sxy→xy→Ixy /x[]:Sxy→\xy→Ixy //o]:Soo→\o\o→Ioo //[c:Sc]→\c]→Ic] /.[]:Sa/b.→a/b\.→Ia/b.
-       /%[]:Sa%b→a%b→✗ /␣[]:Sa␣b→a\␣b→Ia␣b /é[]:Sé%e9→\é%e9→Ié%e9 /x[]:axb→✗ /%[]:\%41→IA)"}};
-  for (const Driven &space : drivenSpaces)
-    for (const auto &[spaces, cases] : rows)
-      for (const Row &row : rowsOf(std::string(spaces).find(space.name) == std::string::npos ? "" : cases)) {
-        SCOPED_TRACE(space.name + " " + row.input);
-        const Handle handle = handleOf(space.name, row.input);
-        const bool isWritten = row.result.value_or("").find("→") != std::string::npos;
-        const std::string text = row.input.substr(5);
-        const Result name = isWritten ? take(space.write(text.c_str(), nullptr, nullptr, handle.get())) : text;
-        const Result back = take(space.read(name.value_or("").c_str(), nullptr, nullptr, handle.get()));
-        EXPECT_EQ((isWritten ? name.value_or("✗") + "→" : "") + back.value_or("✗"), row.result.value_or("✗"));
+  for (Row &row : rowsOf(HERE, R"(
+    Sdf Spef Gcf Spf Def:
+      x/[]  write  Sxy   \xy   Ixy
+      //o]  write  Soo   \o\o  Ioo
+      X/[]  write  IX    x     Ix                 // lowered first, and no pin delimiter then
+      X/[]  write  SX    \X    SX
+      x/[]  write  IX    \x    Ix
+      ␣/[]  write  Sa␣b  a\␣b  Ia␣b
+      \/[]  write  Sa\b  a\\b  Ia\b
+      ␁/[]  write  S␁    \␁    I␁
+    Sdf Spef Gcf:
+      /x[]  write  Sxy    xy        Ixy
+      //[c  write  Sc]    \c\]      Ic]
+      #/[]  write  Sa#41  a\#2341   Ia#41         // would be read as an escape, though the mark is quoted
+      A/[]  write  S#41   \#41      I#41          // no escape: A is quoted
+      2/[]  write  S#412  \#2341\2  I#412
+      1/[]  write  S#41   \#234\1   I#2341        // the quoted digit hides the escape from the reader
+      ␣/[]  write  Sa#20  a\#20     Ia#20
+      %/[]  write  Sa%20  a\%20     Ia%20
+      é/[]  write  Sé     \#e9      Ié            // of no class, whatever the separators
+    Spf:
+      /x[]  write  Sxy     \xy      Ixy
+      //[c  write  Sc]     \c]      Ic]
+      ./[]  write  Sa:b.   a:b\.    Ia:b.
+      #/[]  write  Sa#b    a#b      Ia#b
+      #/[]  write  S\#41   \\#2341  I\#41
+      #/[]  write  S#2323  #232323  I#2323
+      A/[]  write  S#41    #41      I#41
+      é/[]  write  Sé      \#e9     I\é
+      #/[]  read   \#41    IA
+    Def:
+      /x[]  write  Sxy    xy        Ixy
+      //[c  write  Sc]    \c]       Ic]
+      .x[]  write  Sa/b.  a/b\.     Ia/b.
+      %/[]  write  Sa%b   a%b       Ia%b
+      %/[]  write  Sa%41  a%2541    Ia%41
+      %/[]  write  Sa%25  a%25      Ia%25
+      A/[]  write  S%41   %41       I%41
+      ;/[]  write  Sa;b   a\;b      Ia;b
+      é/[]  write  Sé%e9  \é%e9     Ié%e9         // a separator may be any byte
+      //[]  write  Sé%e9  %e9%25e9  Ié%e9
+      x/[]  read   axb    Iaxb
+    Lef:
+      x/[]  write  Sxy    xy       Ixy
+      /x[]  write  Sxy    \xy      Ixy
+      //o]  write  Soo    \o\o     Ioo
+      //[c  write  Sc]    \c]      Ic]
+      /.[]  write  Sa/b.  a/b\.    Ia/b.
+      /%[]  write  Sa%b   a%b      refused        // the mark stands as it is
+      /␣[]  write  Sa␣b   a\␣b     Ia␣b
+      /é[]  write  Sé%e9  \é%e9    Ié%e9
+      /x[]  read   axb    refused                 // a separator of LEF cannot stand plain
+      /%[]  read   \%41   IA
+  )")) {
+    const std::vector<std::string> spaces = wordsOf(row.heading);
+    for (const Driven &space : drivenSpaces)
+      if (std::find(spaces.begin(), spaces.end(), space.name) != spaces.end()) {
+        const Handle handle = handleOf(space.name, row[0]);
+        std::string name = row[2];
+        if (row[1] == "write") {
+          const Result written = take(space.write(row[2].c_str(), nullptr, nullptr, handle.get()));
+          name = stated(written, errno);
+          row.expect(row[3], name, space.name);
+        }
+        const Result ident = take(space.read(name.c_str(), nullptr, nullptr, handle.get()));
+        row.expect(row.cells.back(), stated(ident, errno), space.name);
       }
+  }
 }
 
 TEST(CurrentHandle, standsForOneCallWhateverTheOutcome) {

@@ -1,22 +1,25 @@
 // Whether VHDL has the reserved words that VHDL-93 added: by the mode, without one by the environment.
-#include "support/rules.h"
-
-#include <cstdio>
+#include "support/spaces.h"
 
 namespace {
-// Shows whether a mode is set, whether VHDL-87; whether they are reserved, again and by the legal names when the
-// environment has changed, then whether the environment asks for VHDL-87, and what holds without a mode.
+std::string words(int reserved) { return reserved == 1 ? " reserved" : reserved == 0 ? " free" : " neither"; }
+
+// Shows which mode is set; whether the added words are reserved, again by a keyword and by a legal name when the
+// environment has changed; whether the environment asks for VHDL-87; and what holds when the mode is unset.
 [[noreturn]] void showReserved(const std::string &environment, int mode) {
   const auto set = [](const std::string &value) {
     return value == "-" ? unsetenv("ZEL_USE_VHDL87_KEYWORDS") : setenv("ZEL_USE_VHDL87_KEYWORDS", value.c_str(), 1);
   };
   set(environment);
   zelSetVHDLMode(mode);
-  std::fprintf(stderr, "%d%d%d", zelIsVHDLModeSet(), zelIsVHDL87ModeSet(), zelIsVHDLKeyword("Xnor"));
+  std::string shown = zelIsVHDLModeSet() == 1 ? "set" : "unset";
+  shown += zelIsVHDL87ModeSet() == 1 ? " to VHDL-87" : "";
+  shown += words(zelIsVHDLKeyword("Xnor"));
   set(environment == "-" ? "yes" : "-");
-  std::fprintf(stderr, "%d%d%d", zelIsVHDLKeyword("xnor"), 1 - zelIsLegalVHDL("pure"), zelIsVHDLEnvvarSet());
+  shown += words(zelIsVHDLKeyword("xnor")) + words(1 - zelIsLegalVHDL("pure"));
+  shown += zelIsVHDLEnvvarSet() == 1 ? " asked" : " unasked";
   zelSetVHDLMode(0);
-  std::fprintf(stderr, "%d", zelIsVHDLKeyword("xnor"));
+  std::fputs((shown + words(zelIsVHDLKeyword("xnor"))).c_str(), stderr);
   std::exit(0);
 }
 } // namespace
@@ -24,8 +27,18 @@ namespace {
 // In a process of its own each, for the environment is read once: when a question first needs it.
 TEST(VHDLMode, decidesBeforeTheEnvironment) {
   testing::FLAGS_gtest_death_test_style = "threadsafe";
-  for (const auto &[given, answers] : rowsOf("0-→0011101 0yes→0000010 0YES→0000010 0Yes→0011101 0yess→0011101 "
-                                             "1-→1100010 2-→1011110 2yes→1011101 3yes→1011101"))
-    EXPECT_EXIT(showReserved(given.substr(1), given[0] - '0'), testing::ExitedWithCode(0), '^' + *answers + '$')
-        << given;
+  for (Row &row : rowsOf(HERE, R"(
+    0  -     unset reserved reserved reserved unasked reserved
+    0  yes   unset free free free asked free
+    0  YES   unset free free free asked free
+    0  Yes   unset reserved reserved reserved unasked reserved
+    0  yess  unset reserved reserved reserved unasked reserved
+    1  -     set to VHDL-87 free free free asked free                    // read first when it has changed
+    2  -     set reserved reserved reserved asked free
+    2  yes   set reserved reserved reserved unasked reserved
+    3  yes   set reserved reserved reserved unasked reserved
+  )")) {
+    row.tried();
+    EXPECT_EXIT(showReserved(row[1], std::stoi(row[0])), testing::ExitedWithCode(0), '^' + row[2] + '$');
+  }
 }

@@ -26,6 +26,11 @@ inline Result take(char *result) {
   return taken;
 }
 
+// A result as tables state it: the text, "refused" for null with EINVAL, or which errno another null came with.
+inline std::string stated(const Result &result, int error) {
+  return result ? *result : error == EINVAL ? "refused" : "null, errno " + std::to_string(error);
+}
+
 // For the allocator convention: gives exactly the bytes that it is asked for, so that a write past them is noticed, and
 // null when malloc fails.
 struct Memory {
@@ -47,29 +52,37 @@ struct Memory {
   }
 };
 
-// The result of a conversion, which must be the same from malloc, in the caller's buffer and from an allocator; that is
-// asked once, for exactly the text and its NUL. Where either has no memory, null and ENOMEM. errno is the conversion's,
-// 0 when it set none.
-template <typename Conversion> Result convert(Conversion conversion, const char *input) {
+// The stated result of a conversion. It must be the same from malloc, in the caller's buffer and from an allocator,
+// which is asked once, for exactly the text and its NUL; where either has no memory, null and ENOMEM. What is not as it
+// must be is appended, so that one comparison finds it.
+template <typename Conversion> std::string convert(Conversion conversion, const char *input) {
   errno = 0;
-  Result result = take(conversion(input, nullptr, nullptr));
+  const Result result = take(conversion(input, nullptr, nullptr));
   const int error = errno;
+  std::string found = stated(result, error);
+  const auto demand = [&found](bool holds, const std::string &complaint) { found += holds ? "" : "; " + complaint; };
+  demand(!result || error == 0, "errno " + std::to_string(error));
+
   char buffer[ZEL_MAX_NAME + 2] = "?";
+  const Result returned = resultOf(conversion(input, nullptr, buffer));
+  demand(returned == result, "with a buffer " + stated(returned, errno));
+  demand(buffer == result.value_or("?"), std::string("in the buffer ") + buffer);
+
   Memory memory;
-  EXPECT_EQ(resultOf(conversion(input, nullptr, buffer)), result);
-  EXPECT_EQ(buffer, result.value_or("?"));
-  EXPECT_EQ(take(conversion(input, Memory::alloc, &memory)), result);
-  EXPECT_EQ(memory.requests, result ? 1 : 0);
-  EXPECT_EQ(memory.size, result ? result->size() + 1 : 0);
+  const Result allocated = take(conversion(input, Memory::alloc, &memory));
+  demand(allocated == result, "by an allocator " + stated(allocated, errno));
+  demand(memory.requests == (result ? 1 : 0), std::to_string(memory.requests) + " requests");
+  demand(memory.size == (result ? result->size() + 1 : 0), std::to_string(memory.size) + " bytes requested");
+
   for (const zelAllocFunc alloc : {zelAllocFunc(), zelAllocFunc(Memory::alloc)}) {
     errno = 0;
     failingMalloc::left = 0;
-    EXPECT_EQ(conversion(input, alloc, alloc == nullptr ? nullptr : &memory), nullptr);
+    const Result none = take(conversion(input, alloc, alloc == nullptr ? nullptr : &memory));
     failingMalloc::left = -1;
-    EXPECT_EQ(errno, result ? ENOMEM : error);
+    demand(!none && errno == (result ? ENOMEM : error), "without memory " + stated(none, errno));
   }
   errno = error;
-  return result;
+  return found;
 }
 
 #endif

@@ -9,7 +9,7 @@ prints() {
     local printed
     printed=$({ eval "$2" || echo "status $?"; } 2>&1 | eval "$filter"; echo .)
     [ "$printed" = "$1"$'\n.' ] || {
-        printf '%s prints\n%s\ninstead of\n%s\n\n' "$2" "$printed" "$1"
+        printf '%s:%s: %s prints\n%s\ninstead of\n%s\n\n' "$0" "${BASH_LINENO[0]}" "$2" "$printed" "$1"
         failed=1
     }
 }
