@@ -909,6 +909,35 @@ typedef struct zelColumnResult {
  * EOVERFLOW when the results do not fit 32-bit offsets, EINVAL for a null argument. */
 ZEL_API int zelMapColumn(zelMapping mapping, const zelColumn *column, zelColumnResult *result) ZEL_NOEXCEPT;
 
+/* A refused line of a block of lines. */
+typedef struct zelLineRefusal {
+  uint64_t line;   /* from 0 */
+  uint64_t start;  /* where the line begins in the block */
+  uint64_t length; /* without its end */
+  zelRefusal refusal;
+} zelLineRefusal;
+
+/* What zelMapLines makes of a block. */
+typedef struct zelLinesResult {
+  uint32_t size;            /* of this struct */
+  int32_t isKept;           /* non-zero: a refused line stays as it is; otherwise it becomes empty */
+  uint64_t lines;           /* how many there were; a rest behind the last end is one, too */
+  uint64_t refused;         /* how many of them were refused */
+  zelLineRefusal *refusals; /* the first refusalCapacity refused lines, the caller's; or null */
+  uint64_t refusalCapacity;
+  char *bytes; /* the results, each with its end, as in zelColumnResult */
+  uint64_t capacity;
+  uint64_t length;
+  void *(*grow)(void *block, uint64_t size, void *context);
+  void *context;
+} zelLinesResult;
+
+/* Maps the lines of a block of text, each ended by the byte end, without allocation a line. The end of a line stands
+ * for the white space that ends an escaped identifier, since editors strip it; a carriage return in front of it stays,
+ * and an empty line is one. 0, or ENOMEM or EINVAL as zelMapColumn. */
+ZEL_API int zelMapLines(zelMapping mapping, const char *text, uint64_t length, char end,
+                        zelLinesResult *result) ZEL_NOEXCEPT;
+
 #ifdef __cplusplus
 }
 #endif

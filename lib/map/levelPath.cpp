@@ -249,6 +249,7 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
 
   const std::size_t first = from.language->isIntroduced && *begin() == from.marks.divider ? 1 : 0;
   std::size_t start = copied = first;
+  written = 0;
   bool isDivided = false;
   bool sawPin = false;
   for (;;) {

@@ -2,7 +2,7 @@
 #ifndef ZEL_MAP_MAPPING_H
 #define ZEL_MAP_MAPPING_H
 
-#include "map/route.h"
+#include "map/levelPath.h"
 
 namespace zeli {
 
@@ -34,10 +34,16 @@ struct zelMappingRecord {
 
 namespace zeli {
 
-// What a text is mapped in. The result lies in it, or in the text.
-struct MappingWork;
+// What texts are mapped in, one after the other. A result lies in it, or in the text.
+struct MappingWork {
+  LevelPath levels;
+  Text readWork;
+  Text writeWork;
+  char items[maxName + 1];
+  char source[LevelPath::longest + 2]; // a text with a NUL behind it
+};
 
-// Maps a text, which a NUL ends, by one of the routes of a mapping; without data where it is refused.
+// Maps a text by one of the routes of a mapping; without data where it is refused.
 Bytes mapText(const zelMappingRecord &mapping, const Route &route, Bytes text, MappingWork &work, zelRefusal &refusal);
 
 } // namespace zeli

@@ -5,14 +5,6 @@
 
 using namespace zeli;
 
-struct zeli::MappingWork {
-  LevelPath levels;
-  Text readWork;
-  Text writeWork;
-  char items[maxName + 1];
-  char source[LevelPath::longest + 1]; // a text of a column, ended by a NUL
-};
-
 namespace {
 
 Bytes refused(zelRefusal &refusal, std::int32_t reason, std::size_t position) {
@@ -20,13 +12,16 @@ Bytes refused(zelRefusal &refusal, std::int32_t reason, std::size_t position) {
   return {};
 }
 
-// One name, with its element letter where it has one.
-Bytes mapName(const Route &route, Bytes text, MappingWork &work, zelRefusal &refusal) {
-  const Name given(text);
+// Whether a text is one word that stands as it is, a name or a path of one level.
+bool isPlainWord(const Route &route, const Name &text) {
   const bool isElement = (route.from.element != '\0' || route.to.element != '\0') && route.isElement(true);
-  if (!isElement && route.takesWords() && given.isWord() && isNameLength(given) && !given.has(route.unless) &&
-      !hasPrefix(given.head()) && !route.isKeyword(given))
-    return given;
+  return !isElement && route.takesWords() && text.isWord() && isNameLength(text) && !text.has(route.unless) &&
+         !hasPrefix(text.head()) && !route.isKeyword(text);
+}
+
+// One name, with its element letter where it has one.
+Bytes mapName(const Route &route, const Name &given, MappingWork &work, zelRefusal &refusal) {
+  const bool isElement = (route.from.element != '\0' || route.to.element != '\0') && route.isElement(true);
   Name name = given;
   std::size_t start = 0;
   if (isElement && route.from.element != '\0') {
@@ -35,9 +30,9 @@ Bytes mapName(const Route &route, Bytes text, MappingWork &work, zelRefusal &ref
     start = 1;
     name = Name(from(given, 1));
   }
-  if (const void *nul = std::memchr(text.data(), '\0', text.size()); nul != nullptr)
-    return refused(refusal, ZEL_REASON_ILLEGAL_CHARACTER,
-                   static_cast<std::size_t>(static_cast<const char *>(nul) - text.data()));
+  if (const std::size_t nul = given.find('\0'); nul != Bytes::npos)
+    return refused(refusal, ZEL_REASON_ILLEGAL_CHARACTER, nul);
+  work.readWork.size = work.writeWork.size = 0;
   const Ident ident = route.from.read(name, work.readWork);
   if (ident.body.data() == nullptr) {
     const zelRefusal inside = route.from.explain(*route.from.names, name);
@@ -66,8 +61,7 @@ bool hasItems(const Route &route) {
          (route.to.pinDelimiter == '\0' || route.kind != ZEL_KIND_PIN);
 }
 
-Bytes mapPath(const zelMappingRecord &mapping, const Route &route, zelHandle handle, Bytes text, MappingWork &work,
-              zelRefusal &refusal) {
+Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &work, zelRefusal &refusal) {
   const Bytes result = work.levels.map(text, route);
   if (result.data() != nullptr)
     return result;
@@ -86,7 +80,6 @@ Bytes mapPath(const zelMappingRecord &mapping, const Route &route, zelHandle han
                                  route.printFlags, names, nullptr, work.items);
   if (items == nullptr && names.refusal.reason == ZEL_REASON_NONE)
     names.refusal = {errno == ENOMEM ? ZEL_REASON_NO_MEMORY : ZEL_REASON_RESULT_TOO_LONG, 0};
-  static_cast<void>(mapping);
   refusal = names.refusal;
   return refusal.reason == ZEL_REASON_NONE ? Bytes(items) : Bytes{};
 }
@@ -106,7 +99,7 @@ char *applyLeniently(const zelMappingRecord &mapping, const char *text, zelAlloc
                            context);
   MappingWork work;
   zelRefusal refusal = {};
-  return finish(mapName(route, nameBytes(text), work, refusal), refusal, alloc, context);
+  return finish(mapName(route, Name(nameBytes(text)), work, refusal), refusal, alloc, context);
 }
 
 } // namespace
@@ -114,10 +107,13 @@ char *applyLeniently(const zelMappingRecord &mapping, const char *text, zelAlloc
 Bytes zeli::mapText(const zelMappingRecord &mapping, const Route &route, Bytes text, MappingWork &work,
                     zelRefusal &refusal) {
   refusal = {};
+  const Name given(text);
+  if (isPlainWord(route, given))
+    return text;
   if (mapping.isNames)
-    return mapName(route, text, work, refusal);
+    return mapName(route, given, work, refusal);
   const zelHandle handle = &route == &mapping.resultKey ? mapping.toHandle : mapping.fromHandle;
-  return mapPath(mapping, route, handle, text, work, refusal);
+  return mapPath(route, handle, text, work, refusal);
 }
 
 char *zelMappingApply(zelMapping mapping, const char *text, zelAllocFunc alloc, void *context) noexcept {
