@@ -7,7 +7,7 @@ enable_testing()
 
 set(zel_test_dir ${PROJECT_BINARY_DIR}/tests)
 
-foreach(folder IN ITEMS core spaces path)
+foreach(folder IN ITEMS core spaces path map)
   file(GLOB sources CONFIGURE_DEPENDS tests/${folder}/*.cpp)
   if(NOT sources)
     continue()
