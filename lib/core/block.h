@@ -15,6 +15,9 @@ using Block = unsigned char __attribute__((vector_size(blockBytes)));
 // All bits of a byte where a test holds, none where it fails.
 using BlockTest = signed char __attribute__((vector_size(blockBytes)));
 
+// As bitsOf gives it for a test that holds everywhere.
+constexpr std::uint32_t allBits = (1U << blockBytes) - 1;
+
 inline Block loadBlock(const char *bytes) {
   Block block;
   std::memcpy(&block, bytes, sizeof block);
@@ -33,25 +36,23 @@ inline std::uint32_t loadHalf(const char *bytes) {
   return half;
 }
 
-// The first eight bytes of size bytes, the first in the lowest place; zero where there are none.
+// The first eight of size bytes, the first in the lowest place; zero where there are none.
 inline std::uint64_t headWord(const char *bytes, std::size_t size) {
   if (size >= 8)
     return loadWord(bytes);
   if (size >= 4)
     return loadHalf(bytes) | std::uint64_t{loadHalf(bytes + size - 4)} << (8 * (size - 4));
-  std::uint64_t head = 0;
-  if (size > 0) {
-    const auto at = [bytes](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(bytes[i])} << (8 * i); };
-    head = at(0) | at(size / 2) | at(size - 1);
-  }
-  return head;
+  if (size == 0)
+    return 0;
+  const auto at = [bytes](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(bytes[i])} << (8 * i); };
+  return at(0) | at(size / 2) | at(size - 1);
 }
 
 // Fewer than sixteen bytes, zeros behind them. Nothing outside them is read.
 inline Block loadPart(const char *bytes, std::size_t size) {
   // Put together in registers: a vector read from two stored words would wait for them.
   using Words = std::uint64_t __attribute__((vector_size(blockBytes)));
-  const std::uint64_t tail = size > 8 ? loadWord(bytes + size - 8) >> (8 * (16 - size)) : 0;
+  const std::uint64_t tail = size < 8 ? 0 : loadWord(bytes + size - 8) >> 8 >> (8 * (15 - size));
   return reinterpret_cast<Block>(Words{headWord(bytes, size), tail});
 }
 

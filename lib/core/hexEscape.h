@@ -7,12 +7,22 @@
 
 namespace zeli {
 
-constexpr int hexDigit(char c) {
-  if (c >= '0' && c <= '9')
-    return c - '0';
-  const char folded = toLower(c);
-  return folded >= 'a' && folded <= 'f' ? folded - 'a' + 10 : -1;
-}
+struct HexDigits {
+  std::int8_t values[256] = {};
+
+  constexpr HexDigits() {
+    for (int i = 0; i < 256; ++i) {
+      const auto c = static_cast<char>(i);
+      const char folded = toLower(c);
+      const int value = digit.has(c) ? c - '0' : folded >= 'a' && folded <= 'f' ? folded - 'a' + 10 : -1;
+      values[i] = static_cast<std::int8_t>(value);
+    }
+  }
+};
+inline constexpr HexDigits hexDigits;
+
+// -1 where c is none.
+constexpr int hexDigit(char c) { return hexDigits.values[static_cast<unsigned char>(c)]; }
 
 // The byte that the hex pair at s[at] encodes; NUL when no pair stands there, and for the pair "00", which is never
 // decoded.
@@ -21,7 +31,7 @@ inline char hexPair(Bytes s, std::size_t at) {
     return '\0';
   const int high = hexDigit(s[at]);
   const int low = hexDigit(s[at + 1]);
-  return high < 0 || low < 0 ? '\0' : static_cast<char>(high * 16 + low);
+  return (high | low) < 0 ? '\0' : static_cast<char>(high * 16 + low);
 }
 
 struct HexEscape {
@@ -58,6 +68,8 @@ struct Spelling {
   std::uint8_t size[256] = {}; // 0 for the mark of the escape, whose spelling depends on what stands behind it
   bool quotesMark = false;
   char quote = '\0';
+  bool keepsGraphic = true;    // all graphic bytes stand for themselves but for the mark and the backslash
+  Traits changed = traitOther; // a body without these traits stands for itself, whatever word bytes the space takes
 
   constexpr Spelling(const HexEscape &escape, const ByteSet &standing, const ByteSet &quoted = {},
                      char quoteMark = '\\')
@@ -77,8 +89,15 @@ struct Spelling {
         text[i][length++] = HexEscape::digitOf(i);
       }
       size[i] = static_cast<std::uint8_t>(length);
+      if (graphic.has(c) && c != '\\' && (length != 1 || text[i][0] != c))
+        keepsGraphic = false;
     }
+    if (keepsGraphic)
+      changed = traitMark | traitNotGraphic | (quoted.has('\\') || !standing.has('\\') ? traitBackslash : 0);
   }
+
+  // Whether body, apart from case, is written as itself in a space that takes words as they are.
+  bool keeps(const Name &body) const { return body.isWord() || (keepsGraphic && !body.withKinds().has(changed)); }
 };
 
 // For text that is only copied.
@@ -91,31 +110,45 @@ inline void copyLowered(Text &out, Bytes s) {
   out.size += s.size();
 }
 
-// Writes body by a spelling, in lower case when it folds. A byte that is lowered is never the mark.
-inline void encode(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+// Writes the mark of the escape at body[at], so that it reads back as a plain mark.
+inline void encodeMark(Text &out, Bytes body, std::size_t at, const HexEscape &escape, const Spelling &spelling) {
+  if (spelling.quotesMark)
+    out.put(spelling.quote);
+  if (escape.isEscape(body, at))
+    escape.put(out, escape.mark);
+  else
+    out.put(escape.mark);
+}
+
+template <bool folds> void encodeAs(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling) {
   char *to = out.bytes + out.size;
   for (std::size_t i = 0; i < body.size(); ++i) {
+    // A byte that is lowered is never the mark.
     const auto byte = static_cast<unsigned char>(folds ? toLower(body[i]) : body[i]);
     std::memcpy(to, spelling.text[byte], sizeof spelling.text[byte]);
-    to += spelling.size[byte];
-    if (spelling.size[byte] != 0)
-      continue;
-    // The mark is written so that it reads back as a plain mark.
-    out.size = static_cast<std::size_t>(to - out.bytes);
-    if (spelling.quotesMark)
-      out.put(spelling.quote);
-    if (escape.isEscape(body, i))
-      escape.put(out, escape.mark);
-    else
-      out.put(escape.mark);
-    to = out.bytes + out.size;
+    const std::size_t size = spelling.size[byte];
+    to += size;
+    if (size == 0) [[unlikely]] {
+      out.size = static_cast<std::size_t>(to - out.bytes);
+      encodeMark(out, body, i, escape, spelling);
+      to = out.bytes + out.size;
+    }
   }
   out.size = static_cast<std::size_t>(to - out.bytes);
 }
 
-// The bytes that a writer makes of a body in a space that takes words as they are: the body itself if it can be.
+// Writes body by a spelling, in lower case when it folds.
+inline void encode(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+  if (folds)
+    encodeAs<true>(out, body, escape, spelling);
+  else
+    encodeAs<false>(out, body, escape, spelling);
+}
+
+// The bytes that a writer makes of a body, behind what work holds already, in a space that takes words as they are: the
+// body itself if it can be.
 inline Bytes spell(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds) {
-  if (!body.isWord())
+  if (!spelling.keeps(body))
     encode(work, body, escape, spelling, folds);
   else if (folds && body.has(traitUpper))
     copyLowered(work, body);
@@ -130,31 +163,33 @@ inline Bytes spell(Text &work, const Name &body, const HexEscape &escape, const 
 // quotes(name, i) tells whether the byte at i only quotes the one behind it.
 template <typename Quotes> bool decode(Text &out, Bytes name, const HexEscape &escape, Quotes quotes) {
   bool copiedUpper = false;
+  char *to = out.bytes + out.size;
   for (std::size_t i = 0; i < name.size();) {
     if (quotes(name, i))
       ++i;
     const char c = name[i];
     if (c == escape.mark && escape.isEscape(name, i)) {
-      out.put(hexPair(name, i + 1));
+      *to++ = hexPair(name, i + 1);
       i += 3;
       continue;
     }
     copiedUpper |= upper.has(c);
-    out.put(c);
+    *to++ = c;
     ++i;
   }
+  out.size = static_cast<std::size_t>(to - out.bytes);
   return copiedUpper;
 }
 
 inline bool quotesNothing(Bytes, std::size_t) { return false; }
 
-// The same as an Ident, of which a capital makes a case-sensitive one. A name in which nothing is quoted or encoded is
-// its own body.
-template <typename Quotes>
-Ident decodeIdent(Text &work, const Name &name, const HexEscape &escape, std::uint8_t quoteTrait, Quotes quotes) {
-  if (!name.has(static_cast<std::uint8_t>(traitMark | quoteTrait)))
-    return identByCase(name);
-  const bool copiedUpper = decode(work, name, escape, quotes);
+// The same as an Ident where nothing is quoted; a capital makes a case-sensitive one. A name in which nothing is
+// encoded is its own body.
+inline Ident decodeIdent(Text &work, const Name &name, const HexEscape &escape) {
+  const Name known = name.withKinds();
+  if (!known.has(traitMark))
+    return identByCase(known);
+  const bool copiedUpper = decode(work, name, escape, quotesNothing);
   return {copiedUpper ? 'S' : 'I', Name(work.view())};
 }
 

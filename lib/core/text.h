@@ -51,70 +51,33 @@ constexpr Bytes force = "ESC_";
 inline bool isForce(Bytes s) { return startsWith(s, force); }
 inline Bytes skipForce(Bytes s) { return isForce(s) ? from(s, force.size()) : s; }
 
-// What the bytes of a name are, found in one pass. Most names are words (letters, digits, '_'), which nearly every
-// space takes as they are: whoever tests or writes one asks for that first and looks at single bytes only otherwise.
-enum Trait : std::uint8_t {
-  traitOther = 1, // bytes that no word has; like those of marks and backslashes also set where this is not known
+// What the bytes of a name are. Most names are words (letters, digits, '_'), which nearly every space takes as they
+// are: whoever tests or writes one asks for that first, and looks at the other bytes only where there are some.
+using Traits = std::uint16_t;
+enum Trait : Traits {
+  traitOther = 1, // bytes that no word has; like the kinds of them also set where this is not known
   traitUpper = 2,
   traitTwoUnderscores = 4, // "__"
-  traitMark = 8,           // '#' or '%'
-  traitBackslash = 16,
-  traitDigitFirst = 32,
-  traitUnderscoreFirst = 64,
-  traitUnderscoreLast = 128
+  traitDigitFirst = 8,
+  traitUnderscoreFirst = 16,
+  traitUnderscoreLast = 32,
+
+  traitMark = 64, // '#' or '%'
+  traitBackslash = 128,
+  traitNotGraphic = 256, // a blank, a control character, a byte of 128 or above
+  kindsOfOther = traitMark | traitBackslash | traitNotGraphic
 };
 
+// Which kinds of bytes that no word has are in s.
+Traits kindsIn(Bytes s);
+
 struct Look {
-  std::uint8_t traits;
+  Traits traits;
   std::uint64_t head; // the first eight bytes, by which keywords are looked up
 };
 
-inline Look lookAt(Bytes s) {
-  constexpr unsigned char caseBit = 'a' - 'A';
-  BlockTest word = ~BlockTest{};
-  Block unlike = {}; // the bits that some letter does not have
-  std::uint32_t pairs = 0;
-  std::uint32_t carried = 0; // the last underscore of the block before
-  const auto look = [&](Block block) {
-    const BlockTest isLetter = isWithin(block | caseBit, 'a', 'z');
-    const BlockTest underscore = isChar(block, '_');
-    word &= isLetter | isWithin(block, '0', '9') | underscore;
-    unlike |= reinterpret_cast<Block>(isLetter) & ~block;
-    const std::uint32_t bits = bitsOf(underscore);
-    pairs |= bits & (bits << 1 | carried);
-    carried = bits >> (blockBytes - 1);
-  };
-
-  std::uint64_t head = 0;
-  std::uint32_t unused = 0; // bytes of a part that are not of the name
-  if (s.size() < blockBytes) {
-    head = headWord(s.data(), s.size());
-    look(loadPart(s.data(), s.size()));
-    unused = 0xFFFFU << s.size() & 0xFFFFU;
-    if (s.empty())
-      return {};
-  } else {
-    head = loadWord(s.data());
-    const std::size_t last = s.size() - blockBytes;
-    std::size_t i = 0;
-    for (; i < last; i += blockBytes)
-      look(loadBlock(s.data() + i));
-    if (i != last)
-      carried = 0; // the last block begins before the boundary
-    look(loadBlock(s.data() + last));
-  }
-
-  const BlockTest isUpper = reinterpret_cast<BlockTest>((unlike & caseBit) == caseBit);
-  int traits = (bitsOf(isUpper) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0) |
-               (digit.has(s.front()) ? traitDigitFirst : 0) | (s.front() == '_' ? traitUnderscoreFirst : 0) |
-               (s.back() == '_' ? traitUnderscoreLast : 0);
-  if ((bitsOf(word) | unused) != 0xFFFF) {
-    traits |= traitOther;
-    for (const char c : s)
-      traits |= c == '\\' ? traitBackslash : c == '#' || c == '%' ? traitMark : 0;
-  }
-  return {static_cast<std::uint8_t>(traits), head};
-}
+// All of it but the kinds of other bytes, in one pass.
+Look lookAt(Bytes s);
 
 // A name with what is known of it.
 struct Name : Bytes {
@@ -123,15 +86,26 @@ struct Name : Bytes {
   Name() = default;
   explicit Name(Bytes bytes) : Bytes(bytes), look(lookAt(bytes)) {}
   Name(Bytes bytes, Look known) : Bytes(bytes), look(known) {}
-  Name(Bytes bytes, std::uint8_t traits) : Bytes(bytes), look{traits, headWord(bytes.data(), bytes.size())} {}
+  Name(Bytes bytes, Traits traits) : Bytes(bytes), look{traits, headWord(bytes.data(), bytes.size())} {}
 
-  bool has(std::uint8_t wanted) const { return (look.traits & wanted) != 0; }
+  bool has(Traits wanted) const { return (look.traits & wanted) != 0; }
   std::uint64_t head() const { return look.head; }
   bool isWord() const { return !has(traitOther); }
+
+  // The same with the kinds of its other bytes known.
+  Name withKinds() const {
+    Name known = *this;
+    if ((look.traits & kindsOfOther) == kindsOfOther)
+      known.look.traits = static_cast<Traits>((look.traits & ~kindsOfOther) | kindsIn(*this));
+    return known;
+  }
 };
 
-// Whether name consists of bytes of set, which holds those of words.
-inline bool isMadeOf(const Name &name, const ByteSet &set) { return name.isWord() || allOf(name, set); }
+// Whether name, which is not empty, consists of bytes of set, which holds those of words.
+inline bool isMadeOf(const Name &name, const ByteSet &set) {
+  // Most names that are not words end in a bracket, so that the last byte alone tells.
+  return name.isWord() || (set.has(name.back()) && allOf(name, set));
+}
 
 // Text being written. It has room for the longest name with every byte spelt as four, behind a prefix and between
 // quotes, so that a writer needs no bounds and an over-long result is known by its size.

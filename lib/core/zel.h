@@ -938,6 +938,47 @@ typedef struct zelLinesResult {
 ZEL_API int zelMapLines(zelMapping mapping, const char *text, uint64_t length, char end,
                         zelLinesResult *result) ZEL_NOEXCEPT;
 
+/* ---------------------------------------------------------------------------------------------------------------
+ * Files
+ *
+ * What a file's header declares of its names: the format, and the separators in force, for zelGetHandle, which takes
+ * the same 0 where nothing is declared:
+ *
+ *   "Spef"  *DIVIDER, *DELIMITER (the pin delimiter), *BUS_DELIMITER with one bracket or two
+ *   "Spf"   *|DIVIDER, *|DELIMITER, *|BUSBIT of a file with *|DSPF or *|RSPF in front of its netlist
+ *   "Sdf"   (DIVIDER c)
+ *   "Lef"   DIVIDERCHAR "c" ; BUSBITCHARS "cc" ;
+ *   "Def"   the same
+ *
+ * Comments and strings are those of the format, and so are the cases of its keywords (SPEF tells them apart, the others
+ * do not). A separator is one printing ASCII character that is no letter, digit, '_', '"' or backslash. What is not
+ * declared in just these forms, or is not complete within the first 65536 bytes, counts as not declared; of several
+ * declarations the last counts. Nothing is read behind the header: behind the first net, port or name map of SPEF, the
+ * first line of DSPF that is no comment, the first CELL of SDF, the first section of DEF, the first layer, via, site or
+ * macro of LEF. LEF and DEF have the same declarations and are told apart by what else they hold up to there, with what
+ * stands there; a file with nothing of either has no format.
+ */
+
+/* The caller sets size to sizeof(zelSeparators). Later versions may add members behind these. */
+typedef struct zelSeparators {
+  uint32_t size;
+  char pinDelimiter; /* each 0 when the file does not declare it */
+  char divider;
+  char busOpen;
+  char busClose;
+} zelSeparators;
+
+/* Reads the beginning of a file, up to 65537 bytes (the last to see whether it goes on), into memory of its own, which
+ * it frees. Stores the name of its format, as zelGetSpaceByName takes it (constant), and its separators where the
+ * pointers are non-null, and returns 1. 0 otherwise, with nothing stored and errno set: EINVAL for a file of no such
+ * format (also one that is packed), for a null fileName or a size too small; ENOMEM; or that of open and read (ENOENT,
+ * EACCES, EISDIR, ...). */
+ZEL_API int zelReadSeparators(const char *fileName, const char **spaceName, zelSeparators *separators) ZEL_NOEXCEPT;
+
+/* The same of a text of length bytes, which needs no NUL at its end and may hold any bytes. No memory is allocated. */
+ZEL_API int zelFindSeparators(const char *text, uint64_t length, const char **spaceName,
+                              zelSeparators *separators) ZEL_NOEXCEPT;
+
 #ifdef __cplusplus
 }
 #endif

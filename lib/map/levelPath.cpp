@@ -70,7 +70,7 @@ void LevelPath::scan(Bytes path) {
     others[i] = look(loadBlock(path.data() + size - blockBytes), blockBytes - rest) | beyond;
   else
     others[i] = rest != 0 ? look(loadPart(path.data(), size), 0) | beyond : beyond;
-  traits = static_cast<std::uint8_t>((bitsOf(capital) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0));
+  traits = static_cast<Traits>((bitsOf(capital) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0));
 }
 
 std::size_t LevelPath::wordEnd(std::size_t start) const {
@@ -100,26 +100,22 @@ std::size_t LevelPath::nameEnd(const Route &route, std::size_t start) {
 }
 
 bool LevelPath::readNumber(std::size_t &at, bool takesSign, std::int64_t &value, bool &isAsPrinted) {
-  const std::size_t start = at;
-  const char *const bytes = begin();
-  const bool isNegative = takesSign && bytes[at] == '-';
-  if (takesSign && sign.has(bytes[at]))
-    ++at;
-  const std::size_t firstDigit = at;
-  value = 0;
-  for (; digit.has(bytes[at]); ++at)
-    if (value <= ZEL_MAX_NUMBER)
-      value = value * 10 + (bytes[at] - '0');
-  if (at == firstDigit) {
-    refuseAt(at, bytes[at] == '\0' ? ZEL_REASON_UNBALANCED_BRACKET : ZEL_REASON_UNEXPECTED_CHARACTER);
+  const char *const start = begin() + at;
+  const char *const firstDigit = takesSign && sign.has(*start) ? start + 1 : start;
+  const char *end = firstDigit;
+  std::int64_t magnitude = 0;
+  for (; digit.has(*end); ++end)
+    if (magnitude <= ZEL_MAX_NUMBER)
+      magnitude = magnitude * 10 + (*end - '0');
+  at += static_cast<std::size_t>(end - start);
+  if (end == firstDigit) {
+    refuseAt(at, *end == '\0' ? ZEL_REASON_UNBALANCED_BRACKET : ZEL_REASON_UNEXPECTED_CHARACTER);
     return false;
   }
-  if (bytes[start] == '+' || (bytes[firstDigit] == '0' && at - start > 1))
-    isAsPrinted = false;
-  if (isNegative)
-    value = -value;
+  isAsPrinted = isAsPrinted && *start != '+' && (*firstDigit != '0' || end - start == 1);
+  value = *start == '-' ? -magnitude : magnitude;
   if (!isNumber(value))
-    refuseAt(start, ZEL_REASON_NUMBER_OUT_OF_RANGE);
+    refuseAt(static_cast<std::size_t>(start - begin()), ZEL_REASON_NUMBER_OUT_OF_RANGE);
   return isNumber(value);
 }
 
@@ -254,6 +250,14 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
   bool sawPin = false;
   for (;;) {
     std::size_t end = wordEnd(start);
+    // Nothing but a mark is to be exchanged behind most levels.
+    while (areWordsPlain && !hasElements && !sawPin && end != start && end != size &&
+           begin()[end] == from.marks.divider && from.ownNames == nullptr && takesWord(route, path, start, end)) {
+      begin()[end] = to.marks.divider;
+      isDivided = true;
+      start = end + 1;
+      end = wordEnd(start);
+    }
     const bool isWord = end != start && endsName(from, begin()[end]);
     bool isPlain = areWordsPlain && isWord && takesWord(route, path, start, end);
     if (!isWord || from.ownNames != nullptr) {

@@ -33,7 +33,7 @@ private:
   std::size_t size = 0;
   std::size_t copied = 0; // up to here the text stands in respelled
   std::size_t written = 0;
-  std::uint8_t traits = 0;
+  Traits traits = 0;
   std::uint32_t others[longest / blockBytes + 2]; // a bit a byte that no word holds
 
   // Behind room for one mark: the text, whose marks are exchanged in their places; and the result

@@ -38,7 +38,7 @@ struct Route {
   std::uint32_t printFlags = 0;
   std::int32_t kind = ZEL_KIND_NET;
   std::int32_t levels = ZEL_LEVELS_ALL;
-  std::uint8_t unless = 0;
+  Traits unless = 0;
   bool (*keywordTests[5])(const Name &word); // of tested, from and to, and the words reserved besides; null-terminated
 
   // Once the sides are set.

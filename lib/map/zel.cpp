@@ -10,7 +10,7 @@ bool isPlain(const Name &name, const Operations &from, const Operations &to) {
   if (!name.isWord() || hasPrefix(name.head()) || zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
     return false;
   const bool isSensitive = from.plainWords.readAs == 'S' || (from.plainWords.readAs == '\0' && name.has(traitUpper));
-  const auto isAs = [&name](const Operations &space, std::uint8_t unless) {
+  const auto isAs = [&name](const Operations &space, Traits unless) {
     return !name.has(unless) && (space.plainWords.isKeyword == nullptr || !space.plainWords.isKeyword(name)) &&
            (space.currentHandle == nullptr || space.currentHandle() == nullptr);
   };

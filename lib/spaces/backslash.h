@@ -13,16 +13,34 @@ struct BackslashRules {
   ByteSet escapable; // the bytes that a backslash may stand before
   HexEscape escape;
   Spelling spelling;
-  bool takesWords; // false where a file chose a letter, digit or '_' as a separator
+  bool takesWords;  // false where a file chose a letter, digit or '_' as a separator
+  bool quotesWords; // whether a backslash may stand before one of these
+
+  // What each byte is to the reader, so that no byte costs it a branch.
+  enum Role : std::uint8_t {
+    escapableRole = 1,
+    backslashRole = 2,
+    notPlainRole = 4,
+    markRole = 8,
+    notGraphicRole = 16
+  };
+  std::uint8_t roles[256] = {};
 
   // quoted: the bytes that the writer puts a backslash before, also when it writes them as an escape.
   constexpr BackslashRules(const ByteSet &plainBytes, const ByteSet &escapableBytes, const ByteSet &quoted,
                            const HexEscape &hexEscape)
       : plain(plainBytes), escapable(escapableBytes), escape(hexEscape),
-        spelling(hexEscape, plainBytes | escapableBytes, quoted), takesWords(true) {
-    for (int c = 0; c < 128; ++c)
-      if (wordChar.has(static_cast<char>(c)) && (quoted.has(static_cast<char>(c)) || !plain.has(static_cast<char>(c))))
-        takesWords = false;
+        spelling(hexEscape, plainBytes | escapableBytes, quoted), takesWords(true), quotesWords(false) {
+    for (int i = 0; i < 256; ++i) {
+      const auto c = static_cast<char>(i);
+      if (wordChar.has(c)) {
+        takesWords = takesWords && !quoted.has(c) && plain.has(c);
+        quotesWords = quotesWords || escapable.has(c);
+      }
+      roles[i] = static_cast<std::uint8_t>((escapable.has(c) ? escapableRole : 0) | (c == '\\' ? backslashRole : 0) |
+                                           (plain.has(c) ? 0 : notPlainRole) | (c == '#' || c == '%' ? markRole : 0) |
+                                           (graphic.has(c) ? 0 : notGraphicRole));
+    }
   }
 
   static constexpr PlainWords plainWords() { return anyWord; }
@@ -44,6 +62,18 @@ struct BackslashRules {
 
   // The Ident of a name that has been found good.
   Ident readLegal(const Name &name, Text &work) const;
+
+private:
+  struct Unquoted {
+    bool isLegal;
+    unsigned roles; // of all bytes
+  };
+
+  // Copies a name to out without the backslashes that only quote.
+  Unquoted unquote(Text &out, Bytes name) const;
+
+  // The Ident of a name of which work holds the unquoted copy.
+  Ident identOfUnquoted(const Name &name, unsigned rolesSeen, Text &work) const;
 };
 
 } // namespace zeli

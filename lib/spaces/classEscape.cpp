@@ -2,14 +2,19 @@
 
 namespace zeli {
 
-bool ClassEscapeRules::isLegal(const Name &name) const { return isNameLength(name) && isMadeOf(name, escape.literal); }
+bool ClassEscapeRules::isLegal(const Name &name) const {
+  if (!isNameLength(name))
+    return false;
+  return (spelling.keepsGraphic && !name.withKinds().has(traitNotGraphic)) || isMadeOf(name, escape.literal);
+}
 
 Bytes ClassEscapeRules::write(const Ident &ident, const Setting &setting, Text &work) const {
-  return spell(work, ident.body, escape, spelling, foldsCase(ident, setting));
+  return spell(work, ident.body, escape, spelling, foldsCase(ident, setting) && ident.body.has(traitUpper));
 }
 
 Ident ClassEscapeRules::read(const Name &name, const Setting &, Text &work) const {
-  return isLegal(name) ? decodeIdent(work, name, escape, 0, quotesNothing) : refuseIdent();
+  const Name known = name.withKinds();
+  return isLegal(known) ? decodeIdent(work, known, escape) : refuseIdent();
 }
 
 } // namespace zeli

@@ -18,7 +18,7 @@ bool EscapedIdentifierRules::isLegal(const Name &name) const {
   if (!isNameLength(name))
     return false;
   if (name[0] == '\\')
-    return isEscaped(name) && allOf(content(name), escape.literal);
+    return isEscaped(name) && (kindsIn(content(name)) & traitNotGraphic) == 0;
   return isNormal(name);
 }
 
@@ -46,7 +46,7 @@ Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, 
       return ident.body;
     if (folds) {
       copyLowered(work, ident.body);
-      const Name lowered(work.view());
+      const Name lowered(work.view(), 0);
       if (!isKeyword(lowered) && !isReserved(lowered))
         return lowered;
       work.size = 0;
@@ -54,7 +54,7 @@ Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, 
   }
 
   work.put('\\');
-  encode(work, ident.body, escape, spelling, folds);
+  spell(work, ident.body, escape, spelling, folds);
   work.put(' ');
   return work.view();
 }
@@ -67,7 +67,7 @@ Ident EscapedIdentifierRules::read(const Name &name, const Setting &, Text &work
     return {'S', name};
   if (!isEscaped(name))
     return refuseIdent();
-  return decodeIdent(work, {content(name), name.look.traits}, escape, 0, quotesNothing);
+  return decodeIdent(work, {content(name), name.look.traits}, escape);
 }
 
 } // namespace zeli

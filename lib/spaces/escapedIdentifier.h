@@ -11,7 +11,7 @@ namespace zeli {
 struct EscapedIdentifierRules {
   ByteSet first;
   ByteSet normal;
-  HexEscape escape; // its literal bytes are the ones that may stand in an escaped identifier
+  HexEscape escape; // its literal bytes, the graphic ones, may stand in an escaped identifier
   Spelling spelling;
   bool (*isKeyword)(const Name &word);
 

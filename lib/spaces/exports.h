@@ -43,6 +43,10 @@ template <typename Rules> char *readName(const Rules &rules, const char *name, z
 #define ZEL_EXPORT_WORD(function, test)                                                                                \
   int function(const char *word) noexcept { return test(zeli::Name(zeli::wholeBytes(word))) ? 1 : 0; }
 
+// zelIs<X>Keyword: a test that asks for no traits.
+#define ZEL_EXPORT_KEYWORD(function, test)                                                                             \
+  int function(const char *word) noexcept { return test(zeli::Name(zeli::wholeBytes(word), 0)) ? 1 : 0; }
+
 // zelVerify<X>Keywords
 #define ZEL_EXPORT_VERIFY(function, keywords)                                                                          \
   int function() noexcept { return (keywords).verify() ? 1 : 0; }

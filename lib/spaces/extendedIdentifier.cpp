@@ -9,6 +9,9 @@ bool isCompatibility(std::int32_t state) { return state == ZEL_MAP_VHDL || state
 } // namespace
 
 bool isLegalExtended(Bytes name, const ByteSet &escapable) {
+  if (name.size() >= 2 && isExtended(name) &&
+      (kindsIn(extendedContent(name)) & (traitBackslash | traitNotGraphic)) == 0)
+    return true;
   bool isClosing = false;
   for (const char c : from(name, 1)) {
     if (!escapable.has(c))
@@ -21,9 +24,9 @@ bool isLegalExtended(Bytes name, const ByteSet &escapable) {
   return isClosing;
 }
 
-Bytes writeExtended(Text &work, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+Bytes writeExtended(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds) {
   work.put('\\');
-  encode(work, skipForce(body), escape, spelling, folds);
+  spell(work, {skipForce(body), body.look.traits}, escape, spelling, folds);
   work.put('\\');
   return work.view();
 }
@@ -41,7 +44,9 @@ bool ExtendedIdentifierRules::isLegal(const Name &name) const {
 
 zelRefusal ExtendedIdentifierRules::explain(const Name &name) const {
   return explainLength(name, [&]() -> zelRefusal {
-    const auto at = [](std::int32_t reason, std::size_t i) { return zelRefusal{reason, static_cast<std::uint32_t>(i)}; };
+    const auto at = [](std::int32_t reason, std::size_t i) {
+      return zelRefusal{reason, static_cast<std::uint32_t>(i)};
+    };
     if (name[0] == '\\') {
       bool isClosing = false;
       for (std::size_t i = 1; i < name.size(); ++i) {

@@ -8,21 +8,22 @@
 
 namespace zeli {
 
-// Whether a name that begins with a backslash is a well-formed extended identifier over a set of bytes.
-bool isLegalExtended(Bytes name, const ByteSet &escapable);
-
 // Whether name has the outer form of an extended identifier. A lone backslash does: it opens and closes at once.
 inline bool isExtended(Bytes name) { return !name.empty() && name.front() == '\\' && name.back() == '\\'; }
 inline Bytes extendedContent(Bytes name) {
   return name.size() < 2 ? Bytes{""} : Bytes{name.data() + 1, name.size() - 2};
 }
 
+// Whether a name that begins with a backslash is a well-formed extended identifier over a set of bytes, which holds all
+// graphic ones.
+bool isLegalExtended(Bytes name, const ByteSet &escapable);
+
 // A backslash inside is doubled: how that is written, and for decode the first of the two.
 constexpr Spelling spellingExtended(const HexEscape &escape) { return Spelling(escape, escape.literal, chars("\\")); }
 inline bool quotesBackslash(Bytes s, std::size_t i) { return s[i] == '\\' && i + 1 < s.size() && s[i + 1] == '\\'; }
 
 // body, without a force prefix, as an extended identifier.
-Bytes writeExtended(Text &work, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds);
+Bytes writeExtended(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds);
 
 // Reads an extended identifier. A content that would also be a name as it stands keeps the force prefix, by which it is
 // written back extended; one with capitals only when keepsCapitals.
@@ -30,13 +31,16 @@ template <typename IsNormal>
 Ident readExtended(const Name &name, Text &work, const HexEscape &escape, bool keepsCapitals, IsNormal isNormal) {
   if (!isExtended(name))
     return refuseIdent();
+  const Name content = Name(extendedContent(name)).withKinds();
+  const bool standsAsItIs = !content.has(traitMark | traitBackslash);
   work.put(force);
-  const bool copiedUpper = decode(work, extendedContent(name), escape, quotesBackslash);
-  const Bytes forced = work.view();
-  const Name plain(skipForce(forced));
-  if ((!copiedUpper || keepsCapitals) && isNormal(plain))
-    return {'S', Name(forced)};
-  return {copiedUpper ? 'S' : 'I', plain};
+  const bool copiedUpper = standsAsItIs ? content.has(traitUpper) : decode(work, content, escape, quotesBackslash);
+  const Name plain = standsAsItIs ? content : Name(skipForce(work.view()));
+  if ((copiedUpper && !keepsCapitals) || !isNormal(plain))
+    return {copiedUpper ? 'S' : 'I', plain};
+  if (standsAsItIs)
+    work.put(content);
+  return {'S', Name(work.view())};
 }
 
 struct ExtendedIdentifierRules {
@@ -48,7 +52,7 @@ struct ExtendedIdentifierRules {
   bool (*isSettled)() = nullptr; // see PlainWords
 
   constexpr PlainWords plainWords() const {
-    constexpr std::uint8_t never = traitDigitFirst | traitUnderscoreFirst | traitUnderscoreLast | traitTwoUnderscores;
+    constexpr Traits never = traitDigitFirst | traitUnderscoreFirst | traitUnderscoreLast | traitTwoUnderscores;
     return {never, never | traitUpper, never, 'I', isKeyword, isSettled};
   }
 

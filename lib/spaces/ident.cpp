@@ -17,6 +17,8 @@ int compareBodies(const char *a, bool foldA, const char *b, bool foldB) {
 
 bool isMarker(char c) { return c == 'S' || c == 'I' || c == 'F'; }
 
+bool isIdent(const char *ident) { return ident != nullptr && isMarker(*ident) && ident[1] != '\0'; }
+
 struct IdentRules {
   // Never: the marker tells.
   static constexpr PlainWords plainWords() { return {traitOther, traitOther, traitOther, 'S'}; }
@@ -44,16 +46,14 @@ constexpr IdentRules rules;
 
 const Operations zeli::identNames = operationsOf<rules>;
 
-int zelIsLegalIdent(const char *ident) noexcept {
-  return ident != nullptr && isMarker(*ident) && ident[1] != '\0' ? 1 : 0;
-}
+int zelIsLegalIdent(const char *ident) noexcept { return isIdent(ident) ? 1 : 0; }
 
 char *zelIdentToIdent(const char *ident, zelAllocFunc alloc, void *context) noexcept {
   return zelNewString(ident, alloc, context);
 }
 
 int zelIdentCmp(const char *a, const char *b) noexcept {
-  if (zelIsLegalIdent(a) == 0 || zelIsLegalIdent(b) == 0)
+  if (!isIdent(a) || !isIdent(b))
     return 0;
   bool foldA = *a == 'I';
   bool foldB = *b == 'I';

@@ -45,7 +45,7 @@ constexpr Bytes keywordPrefix = "KEYWORD_";
 // Whether name must not stand without a prefix, or without one more: a keyword behind at most two prefixes.
 bool needsPrefix(Bytes name) {
   for (int prefixes = 0; prefixes <= 2; ++prefixes) {
-    if (keywordTable.has(Name(name)))
+    if (isKeyword(Name(name, 0)))
       return true;
     if (!startsWith(name, keywordPrefix))
       return false;
@@ -56,7 +56,7 @@ bool needsPrefix(Bytes name) {
 
 // Digits only, or digits, letters and digits as in 2n3904; a backslash hides the byte behind it from this rule.
 bool isDigitStartName(Bytes name) {
-  if (name.empty() || isKeyword(Name(name)))
+  if (name.empty() || isKeyword(Name(name, 0)))
     return false;
   if (allOf(name, digit))
     return true;
@@ -148,7 +148,7 @@ ZEL_EXPORT_LEGAL(zelIsLegalKirra, rules)
 ZEL_EXPORT_WRITER(zelIdentToKirra, rules)
 ZEL_EXPORT_READER(zelKirraToIdent, rules)
 ZEL_EXPORT_WORD(zelIsLegalKirraDigitStartName, isDigitStartName)
-ZEL_EXPORT_WORD(zelIsKirraKeyword, isKeyword)
+ZEL_EXPORT_KEYWORD(zelIsKirraKeyword, isKeyword)
 ZEL_EXPORT_CHARACTER(zelIsKirraFirstChar, first)
 ZEL_EXPORT_CHARACTER(zelIsKirraNonFirstChar, nonFirst)
 ZEL_EXPORT_CHARACTER(zelIsKirraEscapableChar, rules.escapable)

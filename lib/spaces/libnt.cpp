@@ -79,7 +79,7 @@ struct LibraryNTRules : ClassEscapeRules {
     if (startsWith(name, reservedPrefix))
       return {'I', Name(from(name, reservedPrefix.size()))};
     if (name.find('%') == Bytes::npos) {
-      const Ident ident = decodeIdent(work, name, escape, 0, quotesNothing);
+      const Ident ident = decodeIdent(work, name, escape);
       return {'I', ident.body};
     }
     // With '%', every capital that matters stands behind one, and the file system may have changed the case of all.
@@ -107,4 +107,4 @@ ZEL_EXPORT_LEGAL(zelIsLegalLibraryNT, rules)
 ZEL_EXPORT_WRITER(zelIdentToLibraryNT, rules)
 ZEL_EXPORT_READER(zelLibraryNTToIdent, rules)
 ZEL_EXPORT_CHARACTER(zelIsNTChar, fileNameChar)
-ZEL_EXPORT_WORD(zelIsNTKeyword, isReserved)
+ZEL_EXPORT_KEYWORD(zelIsNTKeyword, isReserved)

@@ -69,7 +69,7 @@ struct ORKARules {
   }
 
   Ident read(const Name &name, const Setting &, Text &work) const {
-    return isLegal(name) ? decodeIdent(work, name, escape, 0, quotesNothing) : refuseIdent();
+    return isLegal(name) ? decodeIdent(work, name, escape) : refuseIdent();
   }
 };
 

@@ -74,9 +74,9 @@ struct RedefinableRules {
 };
 
 template <const auto &rules, typename Rules = std::remove_cvref_t<decltype(rules)>>
-constexpr Operations redefinableOperationsOf = {operationsOf<rules>.isLegal, operationsOf<rules>.read,
-                                                operationsOf<rules>.write, operationsOf<rules>.explain, rules.plainWords(),
-                                                Rules::namespaceHandle,      Rules::makeRules};
+constexpr Operations redefinableOperationsOf = {
+    operationsOf<rules>.isLegal, operationsOf<rules>.read, operationsOf<rules>.write, operationsOf<rules>.explain,
+    rules.plainWords(),          Rules::namespaceHandle,   Rules::makeRules};
 
 } // namespace zeli
 

@@ -34,9 +34,9 @@ inline bool foldsCase(const Ident &ident, const Setting &setting) {
 // Which words are names of a space as they stand, in the default mapping state: those without some traits, and the
 // keywords. (A word with a prefix that some space uses is never one.)
 struct PlainWords {
-  std::uint8_t notRead;
-  std::uint8_t notWrittenSensitive; // of a case-sensitive Ident
-  std::uint8_t notWrittenInsensitive;
+  Traits notRead;
+  Traits notWrittenSensitive; // of a case-sensitive Ident
+  Traits notWrittenInsensitive;
   char readAs; // the marker of their Idents; NUL where it depends on capitals
   bool (*isKeyword)(const Name &word) = nullptr;
   bool (*isSettled)() = nullptr; // whether isKeyword depends on nothing that its first call determines

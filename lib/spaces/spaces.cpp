@@ -46,12 +46,6 @@ SpaceId vhdlFamily(char fifth) {
   }
 }
 
-SpaceId verilogFamily(char eighth, char ninth) {
-  if (eighth == '\0')
-    return SpaceId::Verilog;
-  return eighth == 'A' && ninth == '\0' ? SpaceId::VerilogA : SpaceId::VerilogAMS;
-}
-
 } // namespace
 
 SpaceId zeli::recognise(const char *spaceName) {
@@ -107,7 +101,13 @@ SpaceId zeli::recognise(const char *spaceName) {
   case 'T':
     return SpaceId::Tessel;
   case 'V':
-    return at(1) == 'H' ? vhdlFamily(at(4)) : at(2) == 'l' ? SpaceId::Vellum : verilogFamily(at(7), at(8));
+    if (at(1) == 'H')
+      return vhdlFamily(at(4));
+    if (at(2) == 'l')
+      return SpaceId::Vellum;
+    if (const char eighth = at(7); eighth != 'A')
+      return eighth == '\0' ? SpaceId::Verilog : SpaceId::VerilogAMS;
+    return spaceName[8] == '\0' ? SpaceId::VerilogA : SpaceId::VerilogAMS;
   default:
     return SpaceId::none;
   }

@@ -1,5 +1,5 @@
-// SPEF, Standard Parasitic Exchange Format (IEEE 1481): words, and all punctuation behind a backslash, as in u1\/Pad. The
-// levels of a path are joined by the divider of the file, '/' by default (path/languages.cpp).
+// SPEF, Standard Parasitic Exchange Format (IEEE 1481): words, and all punctuation behind a backslash, as in u1\/Pad.
+// The levels of a path are joined by the divider of the file, '/' by default (path/languages.cpp).
 #include "spaces/redefinable.h"
 #include "spaces/wordFamily.h"
 

@@ -67,7 +67,7 @@ const Operations zeli::spiceNames = operationsOf<rules>;
 ZEL_EXPORT_LEGAL(zelIsLegalSpice, rules)
 ZEL_EXPORT_WRITER(zelIdentToSpice, rules)
 ZEL_EXPORT_READER(zelSpiceToIdent, rules)
-ZEL_EXPORT_WORD(zelIsSpiceKeyword, isKeyword)
+ZEL_EXPORT_KEYWORD(zelIsSpiceKeyword, isKeyword)
 ZEL_EXPORT_CHARACTER(zelIsSpiceNormalChar, normal)
 ZEL_EXPORT_CHARACTER(zelIsSpiceEscapableChar, rules.escapable)
 ZEL_EXPORT_VERIFY(zelVerifySpiceKeywords, keywords)
