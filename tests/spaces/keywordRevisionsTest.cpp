@@ -86,27 +86,28 @@ TEST(KeywordRevisions, haveTheirWordsAndNoOthers) {
   }
 }
 
-// What a simulator of the newer revision refuses.
+// What a simulator of the newer revision refuses, by the digits of the revisions that reserve it.
 TEST(KeywordRevisions, differ) {
+  constexpr const char *names[] = {"1364-2001", "1364-2005", "1800-2017", "1076-2008"};
   for (Row &row : rowsOf(HERE, R"(
-    design            1364-2001 1364-2005 1800-2017
-    cell              1364-2001 1364-2005 1800-2017
-    logic             1800-2017
-    uwire             1364-2005 1800-2017
-    default           1364-2001 1364-2005 1800-2017 1076-2008
-    context           1800-2017 1076-2008
-    bit               1800-2017
-    library           1364-2001 1364-2005 1800-2017 1076-2008
-    assume_guarantee  1076-2008
-    protected         1800-2017 1076-2008
-    wone              none
-    strength          none
+      design            123
+      cell              123
+      logic             3
+      uwire             23
+      default           1234
+      context           34
+      bit               3
+      library           1234
+      assume_guarantee  4
+      protected         34
+      wone              ""
+      strength          ""
   )")) {
     std::string reserving;
-    for (const char *const name : {"1364-2001", "1364-2005", "1800-2017", "1076-2008"})
-      if (findKeywordRevision(name)->isKeyword(Name(row[0])))
-        reserving.append(reserving.empty() ? "" : " ").append(name);
-    row.expect(row[1], reserving.empty() ? "none" : reserving);
+    for (std::size_t i = 0; i < std::size(names); ++i)
+      if (findKeywordRevision(names[i])->isKeyword(Name(row[0])))
+        reserving += static_cast<char>('1' + i);
+    row.expect(row[1], reserving);
   }
 }
 
