@@ -233,7 +233,7 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
     return refuseAt(0, ZEL_REASON_EMPTY);
   if (path.size() > longest)
     return refuseAt(longest, ZEL_REASON_TOO_LONG);
-  if ((route.printFlags & (ZEL_PRINT_GROUP | ZEL_PRINT_TOP)) != 0)
+  if ((route.printFlags & wholePathFlags) != 0)
     return refuseAt(0, ZEL_REASON_NOT_WRITABLE);
 
   size = path.size();
