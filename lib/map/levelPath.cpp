@@ -17,7 +17,7 @@ bool endsName(const Side &side, char c) {
 bool beginsName(const Side &side, char c) {
   constexpr ByteSet inWords = letter | chars("_\\");
   constexpr ByteSet inSpice = graphic - chars("[]");
-  const Grammar *grammar = side.language->reader.grammar;
+  Grammar *const grammar = side.language->reader.grammar;
   if (grammar == parseVerilog || grammar == parseVHDL)
     return inWords.has(c);
   return grammar == parseSpice && side.ownNames == nullptr ? inSpice.has(c) : graphic.has(c);
