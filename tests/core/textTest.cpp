@@ -17,7 +17,7 @@ struct Alone {
   }
 };
 
-std::uint8_t traitsOf(const std::string &name) {
+zeli::Traits traitsOf(const std::string &name) {
   int traits = 0;
   for (std::size_t i = 0; i < name.size(); ++i) {
     const char c = name[i];
@@ -26,11 +26,12 @@ std::uint8_t traitsOf(const std::string &name) {
     traits |= isUpper ? zeli::traitUpper : 0;
     traits |= c == '_' && i + 1 < name.size() && name[i + 1] == '_' ? zeli::traitTwoUnderscores : 0;
     traits |= isUpper || isDigit || (c >= 'a' && c <= 'z') || c == '_' ? 0 : zeli::traitOther;
+    traits |= (c >= '!' && c <= '~') || c == '\0' ? 0 : zeli::traitNotGraphic; // no name holds a zero
     traits |= c == '#' || c == '%' ? zeli::traitMark : c == '\\' ? zeli::traitBackslash : 0;
     traits |= i == 0 ? (isDigit ? zeli::traitDigitFirst : c == '_' ? zeli::traitUnderscoreFirst : 0) : 0;
     traits |= i + 1 == name.size() && c == '_' ? zeli::traitUnderscoreLast : 0;
   }
-  return static_cast<std::uint8_t>(traits);
+  return static_cast<zeli::Traits>(traits);
 }
 std::uint64_t headOf(const std::string &name) {
   std::uint64_t head = 0;
@@ -40,7 +41,7 @@ std::uint64_t headOf(const std::string &name) {
 }
 void expectSeen(const std::string &name) {
   const Alone alone(name);
-  const zeli::Look look = zeli::lookAt(alone.view);
+  const zeli::Look look = zeli::Name(alone.view).withKinds().look;
   if (testing::Test::HasFailure())
     return; // others would say the same
   EXPECT_TRUE(look.traits == traitsOf(name) && look.head == headOf(name)) << testing::PrintToString(name);
