@@ -55,12 +55,18 @@ zel_below_prefix(zel_pc_libdir ${CMAKE_INSTALL_LIBDIR})
 configure_file(cmake/zel.pc.in ${PROJECT_BINARY_DIR}/zel.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zel.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 
-# --- The tool and the manual ---------------------------------------------------------------------------------------
+# --- The tools and the manual --------------------------------------------------------------------------------------
 
 install(TARGETS zelpath RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
 install(FILES tool/zelpath.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME zelpath
         COMPONENT tool)
 install(FILES docs/man/zelpath.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+if(TARGET zel_tool)
+  install(TARGETS zel_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
+  install(FILES tool/zel/zel.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME zel
+          COMPONENT tool)
+  install(FILES docs/man/zel.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+endif()
 install(FILES docs/man/zel.3 DESTINATION ${CMAKE_INSTALL_MANDIR}/man3 COMPONENT dev)
 
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)

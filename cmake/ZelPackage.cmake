@@ -40,7 +40,7 @@ set(CPACK_DEBIAN_DEV_DESCRIPTION
 set(CPACK_DEBIAN_TOOL_PACKAGE_NAME zelpath)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION electronics)
 set(CPACK_DEBIAN_TOOL_DESCRIPTION
-    "${zel_about}\n.\nThis package holds zelpath, which shows one name in every syntax.")
+    "${zel_about}\n.\nThis package holds zelpath, which shows one name in every syntax, and zel,\nwhich maps, checks and explains names and files of names.")
 
 # The trigger runs ldconfig once for all packages that are installed together. CPack would write maintainer scripts that
 # run it as well for every shared library that it sees, and it looks for them only to ask for their dependencies; those

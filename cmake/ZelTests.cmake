@@ -24,6 +24,9 @@ foreach(folder IN ITEMS core spaces path map)
 endforeach()
 
 add_test(NAME tool.zelpath COMMAND ${PROJECT_SOURCE_DIR}/tests/tool/zelpath.sh $<TARGET_FILE_DIR:zelpath>)
+if(TARGET zel_tool)
+  add_test(NAME tool.zel COMMAND ${PROJECT_SOURCE_DIR}/tests/tool/zel.sh $<TARGET_FILE_DIR:zel_tool>)
+endif()
 
 # gcov, and clang's sanitizers, add symbols of their own to the library's.
 if(NOT ZEL_COVERAGE AND NOT (ZEL_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "Clang"))

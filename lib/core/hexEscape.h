@@ -68,12 +68,13 @@ struct Spelling {
   std::uint8_t size[256] = {}; // 0 for the mark of the escape, whose spelling depends on what stands behind it
   bool quotesMark = false;
   char quote = '\0';
-  bool keepsGraphic = true;    // all graphic bytes stand for themselves but for the mark and the backslash
-  Traits changed = traitOther; // a body without these traits stands for itself, whatever word bytes the space takes
+  bool keepsGraphic = true; // whether graphic bytes stand for themselves, but for the mark and the backslash
+  Traits respelt;           // and if so, the kinds of bytes of which some do not
 
   constexpr Spelling(const HexEscape &escape, const ByteSet &standing, const ByteSet &quoted = {},
                      char quoteMark = '\\')
-      : quotesMark(quoted.has(escape.mark)), quote(quoteMark) {
+      : quotesMark(quoted.has(escape.mark)), quote(quoteMark),
+        respelt(traitMark | traitNotGraphic | (quoted.has('\\') || !standing.has('\\') ? traitBackslash : 0)) {
     for (int i = 0; i < 256; ++i) {
       const auto c = static_cast<char>(i);
       if (c == escape.mark)
@@ -92,12 +93,10 @@ struct Spelling {
       if (graphic.has(c) && c != '\\' && (length != 1 || text[i][0] != c))
         keepsGraphic = false;
     }
-    if (keepsGraphic)
-      changed = traitMark | traitNotGraphic | (quoted.has('\\') || !standing.has('\\') ? traitBackslash : 0);
   }
 
   // Whether body, apart from case, is written as itself in a space that takes words as they are.
-  bool keeps(const Name &body) const { return body.isWord() || (keepsGraphic && !body.withKinds().has(changed)); }
+  bool keeps(const Name &body) const { return body.isWord() || (keepsGraphic && !body.withKinds().has(respelt)); }
 };
 
 // For text that is only copied.

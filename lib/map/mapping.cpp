@@ -235,7 +235,8 @@ bool setOptions(zelMappingRecord &mapping, const zelMappingOptions &options, con
                             : options.mapState != 0 ? options.mapState
                                                     : std::int32_t{ZEL_MAP_DEFAULT};
     side.element = space == SpaceId::Spice ? options.element : '\0';
-    side.takesWords = side.setting.mapState == ZEL_MAP_DEFAULT;
+    // An Ident is a word only with its marker.
+    side.takesWords = side.setting.mapState == ZEL_MAP_DEFAULT && space != SpaceId::Ident;
     if (language != nullptr)
       side.marks = language->reader.marks;
     if (language != nullptr && language->redefines == Redefines::everything)

@@ -103,7 +103,7 @@ int mapColumn(const zelMappingRecord &mapping, const zelColumn &column, zelColum
 // A line, whose end may stand for white space.
 Bytes mapLine(const zelMappingRecord &mapping, Bytes line, MappingWork &work, zelRefusal &refusal) {
   const Bytes mapped = mapOne(mapping, line, work, refusal);
-  if (mapped.data() != nullptr || line.find('\\') == Bytes::npos || line.size() > LevelPath::longest)
+  if (mapped.data() != nullptr || refusal.reason != ZEL_REASON_NO_WHITE_SPACE || line.size() > LevelPath::longest)
     return mapped;
   char blanked[LevelPath::longest + 1];
   std::memcpy(blanked, line.data(), line.size());

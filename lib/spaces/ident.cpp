@@ -23,17 +23,17 @@ struct IdentRules {
   // Never: the marker tells.
   static constexpr PlainWords plainWords() { return {traitOther, traitOther, traitOther, 'S'}; }
 
-  bool isLegal(const Name &name) const { return name.size() > 1 && isMarker(name[0]); }
+  static bool isLegal(const Name &name) { return name.size() > 1 && isMarker(name[0]); }
 
-  zelRefusal explain(const Name &name) const {
+  static zelRefusal explain(const Name &name) {
     return {name.empty() || isMarker(name[0]) ? ZEL_REASON_EMPTY : ZEL_REASON_ILLEGAL_FIRST_CHARACTER, 0};
   }
 
-  Ident read(const Name &name, const Setting &, Text &) const {
+  static Ident read(const Name &name, const Setting &, Text &) {
     return isLegal(name) ? Ident{name[0], Name(from(name, 1))} : refuseIdent();
   }
 
-  Bytes write(const Ident &ident, const Setting &, Text &work) const {
+  static Bytes write(const Ident &ident, const Setting &, Text &work) {
     work.put(ident.marker);
     work.put(ident.body);
     return work.view();

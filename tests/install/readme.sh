@@ -6,7 +6,7 @@ readme=$source/README.md
 block() {
     sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/{/^\`\`\`/d;p}" "$readme"
 }
-[ "$(grep -c '^```' "$readme")" -eq 6 ] || fail "README.md has other blocks than one in C, CMake and sh"
+[ "$(grep -c '^```' "$readme")" -eq 8 ] || fail "README.md has other blocks than one in C, CMake, console and sh"
 block c >program.c
 {
     printf '%s\n' 'cmake_minimum_required(VERSION 3.21)' 'project(readme C)' 'add_executable(program program.c)'
@@ -29,6 +29,16 @@ while IFS= read -r command; do
 done <commands
 
 export PATH=$prefix/bin:$PATH
+
+# Behind "$ " a command, and what it prints; zel is left out where CLI11 is missing.
+if [ -x "$prefix/bin/zel" ]; then
+    block console >session
+    while IFS= read -r line; do
+        printf '%s\n' "$line"
+        case $line in '$ '*) eval "${line#??}" </dev/null || [ $? -eq 1 ] || fail "failed: $line" ;; esac
+    done < <(grep '^\$ ' session) >played
+    diff session played >&2 || fail "README.md promises something else than zel prints"
+fi
 
 # The indented commands. "./dev test" is what runs this; building is left to the installed zelpath.
 if grep '^    [^ ]' "$readme" | grep -v '^    ./dev ' >&2; then

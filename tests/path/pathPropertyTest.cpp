@@ -1,4 +1,4 @@
-// What holds for any path: linear time, and the same result under every convention.
+// What holds for any path: linear time.
 #include "path/pathSupport.h"
 
 #include <chrono>
@@ -50,38 +50,6 @@ TEST(PathProperty, TheEndIsFoundWithoutASearch) {
     EXPECT_EQ(zelPathRemoveLevel(path.get()), -19);
   const auto time = std::chrono::steady_clock::now() - start;
   EXPECT_LT(time, std::chrono::seconds(20)) << left; // usually below one
-}
-
-TEST(PathMapper, TakesNamesOrHandlesUnderEveryConvention) {
-  for (const std::string &source : pathLanguages)
-    for (const std::string &target : pathLanguages) {
-      const auto map = [&](const char *text, zelAllocFunc alloc, void *context) {
-        return zelPathMapperEx(text, zelGetHandle(source.c_str(), 0, 0, 0, 0), zelGetHandle(target.c_str(), 0, 0, 0, 0),
-                               0, nullptr, nullptr, alloc, context);
-      };
-      const std::string expected = mapped(source, "a1", target);
-      EXPECT_EQ(convert(map, "a1"), expected) << source << " " << target;
-      EXPECT_EQ(take(zelPathMapper("a1", nullptr, nullptr, 0, source.c_str(), target.c_str())), expected);
-    }
-  const zelHandle dots = spaceAt("Sdf(.<>)").handle;
-  EXPECT_EQ(take(zelPathMapper("a.b<1:0>", dots, nullptr, 1, nullptr, "Sdf")), "a/b[1],a/b[0]");
-  EXPECT_EQ(take(zelPathMapper("a/b[1:0]", nullptr, dots, 9, "Sdf", "x")), "a.b<1>,a.b<0>");
-  errno = 0;
-  EXPECT_EQ(zelPathMapper("a", nullptr, nullptr, 0, "Ascii", "VHDL"), nullptr);
-  EXPECT_EQ(errno, EINVAL);
-  EXPECT_EQ(zelPathMapper("a.", nullptr, nullptr, 0, "Verilog", "VHDL"), nullptr);
-  EXPECT_EQ(zelPathMapper("a", nullptr, nullptr, 0, "VHDL", nullptr), nullptr);
-}
-
-TEST(PathMapper, ParsesAndPrints) {
-  const VHDLMode mode(2);
-  forEachPairOfLanguages([](const std::string &from, const std::string &to, const std::string &text) {
-    const std::string expected = mapped(from, text, to);
-    errno = 0;
-    const Result result = take(zelPathMapper(text.c_str(), nullptr, nullptr, 0, from.c_str(), to.c_str()));
-    const bool isRight = expected == "does not parse" ? !result : stated(result, errno) == expected;
-    EXPECT_TRUE(isRight) << from << " " << to << " " << shown(text) << ": " << shown(result.value_or("null"));
-  });
 }
 
 } // namespace

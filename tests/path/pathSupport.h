@@ -43,7 +43,7 @@ inline const std::map<std::string, PathSpace> pathSpaces = {
 inline const std::vector<std::string> printedLanguages =
     wordsOf("Verilog Kirra KirraHDL VHDL ORKA Tessel FlatTessel Lef Def Sdf Spf Spef Gcf Spice");
 
-// "Sdf", or "Sdf(.<>)" with a divider and, if they follow, bus brackets of one's own.
+// "Sdf", or "Sdf(.<>)" with a divider and, if they follow, bus brackets and a pin delimiter of one's own.
 inline PathSpace spaceAt(const std::string &words) {
   static std::map<std::string, Handle> made;
   const std::size_t end = std::min(words.find('('), words.size());
@@ -51,11 +51,11 @@ inline PathSpace spaceAt(const std::string &words) {
   PathSpace space = pathSpaces.at(name);
   if (end != words.size()) {
     std::string separators = words.substr(end + 1, words.size() - end - 2);
-    separators.resize(3, '\0');
+    separators.resize(4, '\0');
     const auto at = [&](std::size_t i) { return static_cast<std::uint32_t>(separators[i]); };
     Handle &handle = made[words];
     if (handle == nullptr)
-      handle.reset(zelGetHandle(name.c_str(), 0, at(0), at(1), at(2)));
+      handle.reset(zelGetHandle(name.c_str(), at(3), at(0), at(1), at(2)));
     space.handle = handle.get();
   }
   return space;

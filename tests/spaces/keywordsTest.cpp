@@ -55,6 +55,9 @@ TEST(Keywords, areFoundWhereTheSearchPasses) {
     group             VHDL VHDLAMS Def
     ifnone            Verilog VerilogAMS VerilogA
     impure            VHDL VHDLAMS
+    laplace_n         none  // the first eight bytes do not decide
+    laplace_np        VerilogAMS VerilogA
+    laplace_nx        none
     library           VHDL VHDL87 VHDLAMS Lef
     limexp            VerilogAMS  // KirraHDL, too, stores it behind the words with i
     ln                VerilogAMS VerilogA

@@ -28,19 +28,35 @@ TEST(MapName, goesThroughIdent) {
   EXPECT_EQ(zelMapper(zelVHDLToIdent, nullptr, "a", nullptr, nullptr), nullptr);
 }
 
+// Also where it needs no Ident, because the name stands as it is in both spaces.
 TEST(MapName, isTheOneConversionAfterTheOther) {
-  forEachPairOfSpaces([](const std::string &from, const std::string &to, const std::string &name) {
-    const auto read = spaceOf(from)->nameToIdent;
-    const auto write = spaceOf(to)->identToName;
-    const Result ident = from == "Ident" ? name : take(read(name.c_str(), nullptr, nullptr));
-    const Result expected = ident ? take(write(ident->c_str(), nullptr, nullptr)) : Result();
-    const Result mapped = take(zelMapName(from.c_str(), to.c_str(), name.c_str(), nullptr, nullptr));
-    EXPECT_TRUE(mapped == expected) << from << " " << to << " " << shown(name) << ": "
-                                    << shown(mapped.value_or("null"));
-    // Without the shortcut for Idents, of which none of 2048 characters is copied.
-    const Result composed = take(zelMapper(read, write, name.c_str(), nullptr, nullptr));
+  const std::vector<std::string> names = namesOfEveryHabit();
+  const auto expectSame = [](const std::string &from, const std::string &to, const std::string &name) {
+    zelNameToIdentFunc read = nullptr;
+    zelIdentToNameFunc write = nullptr;
+    zelGetAllFuncs(from.c_str(), nullptr, &read, nullptr);
+    zelGetAllFuncs(to.c_str(), nullptr, nullptr, &write);
+    // Of an Ident of 2048 characters none is copied, but its name may be written.
     const bool isCopied = from != "Ident" || name.size() <= ZEL_MAX_NAME;
-    EXPECT_TRUE(composed == (isCopied ? expected : Result())) << from << " " << to << " " << shown(name);
+    errno = 0;
+    const Result result =
+        take(isCopied ? zelMapper(read, write, name.c_str(), nullptr, nullptr) : write(name.c_str(), nullptr, nullptr));
+    const std::string expected = stated(result, errno);
+    errno = 0;
+    const Result mapped = take(zelMapName(from.c_str(), to.c_str(), name.c_str(), nullptr, nullptr));
+    const std::string found = stated(mapped, errno);
+    std::string buffer = name + std::string(ZEL_MAX_NAME + 2, '\0');
+    const Result inPlace = resultOf(zelMapName(from.c_str(), to.c_str(), buffer.c_str(), nullptr, buffer.data()));
+    EXPECT_TRUE(found == expected && inPlace == mapped)
+        << from << " " << to << " " << shown(name) << ": " << shown(found) << ", in place "
+        << shown(inPlace.value_or("null")) << ", not " << shown(expected);
+  };
+  inEverySetting([&] {
+    for (const std::string &from : allSpaces())
+      for (const std::string &to : allSpaces())
+        for (const std::string &name : names)
+          if (!testing::Test::HasFailure())
+            expectSame(from, to, name);
   });
 }
 
