@@ -32,6 +32,22 @@ struct Arena {
   }
 };
 
+// A number out of range in front of the place where a grammar refuses it; null where there is none.
+const char *numberBefore(const char *text, const char *place) {
+  const char *start = place;
+  while (start != text && digit.has(start[-1]))
+    --start;
+  std::int64_t value = 0;
+  for (const char *at = start; at != place && value <= ZEL_MAX_NUMBER; ++at)
+    value = value * 10 + (*at - '0');
+  constexpr ByteSet opens = chars("[(<{:, ");
+  if (value <= ZEL_MAX_NUMBER || start == text)
+    return nullptr;
+  if (sign.has(start[-1]))
+    --start;
+  return start != text && opens.has(start[-1]) ? start : nullptr;
+}
+
 // Why a grammar refuses a text at a place.
 std::int32_t reasonAt(const char *text, const char *place) {
   if (*place != '\0')
@@ -53,8 +69,16 @@ std::int32_t reasonAt(const char *text, const char *place) {
 
 // Tells more of a refusal that a name began.
 void explainName(const PathLanguage &language, zelHandle handle, TransientNames &names, const char *place) {
+  if (const char *number = numberBefore(names.text, place)) {
+    names.refuse(number, ZEL_REASON_NUMBER_OUT_OF_RANGE);
+    return;
+  }
   const Operations *tested = language.names.tested;
   const auto length = static_cast<std::size_t>(language.names.scan(place, handle) - place);
+  if (length > maxName) {
+    names.refuse(place + maxName, ZEL_REASON_TOO_LONG);
+    return;
+  }
   const Name name(Bytes(place, length));
   if (length == 0 || tested == nullptr || tested->isLegal(name, names.from)) {
     names.refuse(place, reasonAt(names.text, place));

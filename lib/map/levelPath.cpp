@@ -17,7 +17,7 @@ bool endsName(const Side &side, char c) {
 bool beginsName(const Side &side, char c) {
   constexpr ByteSet inWords = letter | chars("_\\");
   constexpr ByteSet inSpice = graphic - chars("[]");
-  const Grammar *grammar = side.language->reader.grammar;
+  Grammar *const grammar = side.language->reader.grammar;
   if (grammar == parseVerilog || grammar == parseVHDL)
     return inWords.has(c);
   return grammar == parseSpice && side.ownNames == nullptr ? inSpice.has(c) : graphic.has(c);
@@ -233,7 +233,7 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
     return refuseAt(0, ZEL_REASON_EMPTY);
   if (path.size() > longest)
     return refuseAt(longest, ZEL_REASON_TOO_LONG);
-  if ((route.printFlags & (ZEL_PRINT_GROUP | ZEL_PRINT_TOP)) != 0)
+  if ((route.printFlags & wholePathFlags) != 0)
     return refuseAt(0, ZEL_REASON_NOT_WRITABLE);
 
   size = path.size();

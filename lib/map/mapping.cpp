@@ -2,6 +2,7 @@
 #include "map/mapping.h"
 
 #include "path/zelPathParse.h"
+#include "path/zelPathPrint.h"
 #include "spaces/keywordRevisions.h"
 
 #include <cstdio>
@@ -91,10 +92,10 @@ bool areSeparators(const Separators &separators, bool hasPins) {
 
 // Sets up one side for paths of a language. Where the file may redefine its separators, the side gets a handle of its
 // own, in made.
-bool setSeparators(Side &side, SpaceId space, const zelMappingSeparators &given, ChosenSeparators *&made,
-                   const Complaint &complain) {
+bool setSeparators(Side &side, SpaceId space, const zelMappingSeparators &given, bool isLenient,
+                   ChosenSeparators *&made, const Complaint &complain) {
   const PathLanguage &language = *side.language;
-  const bool hasPins = space == SpaceId::Spef || space == SpaceId::Spf;
+  const bool hasPins = !isLenient && (space == SpaceId::Spef || space == SpaceId::Spf);
   const bool isSpice = space == SpaceId::Spice;
   if (language.redefines != Redefines::everything && !isSpice)
     return !isGiven(given) || complain("the separators of %s are fixed", language.name);
@@ -137,7 +138,7 @@ const Operations *namesOf(const Operations *names, bool isOfProcess) {
 
 // --- Keys -----------------------------------------------------------------------------------------------------------
 
-constexpr ByteSet keySyntax = chars("/[]\\");
+constexpr ByteSet keySyntax = chars("/[]{},\\");
 
 // What zelIdentCmp compares: a body as it stands, lowered where case does not matter; the marks of the key's levels
 // behind a backslash.
@@ -157,6 +158,20 @@ struct KeyRules {
 constexpr KeyRules keyRules;
 constexpr Operations keyNames = operationsOf<keyRules>;
 
+// As SDF is printed, but a divider in front of all levels tells no objects apart.
+constexpr PathLanguage keyLanguage = {
+    .code = 0,
+    .space = SpaceId::none,
+    .name = "",
+    .parse = nullptr,
+    .print = nullptr,
+    .separators = {'\0', '/', '[', ']'},
+    .handle = nullptr,
+    .names = {.scan = nullptr},
+    .reader = {.grammar = nullptr},
+    .writer = {.printer = &bracePrinter, .names = &keyNames, .marks = {'/', '[', ']'}},
+};
+
 // The keys of what a side reads, in the default mapping state.
 Route keyRoute(const Side &read, const Operations *tested, std::int32_t kind, std::int32_t levels) {
   Route route;
@@ -165,10 +180,8 @@ Route keyRoute(const Side &read, const Operations *tested, std::int32_t kind, st
   route.tested = tested;
   route.kind = kind;
   route.levels = levels;
-  route.to = {.language = &languages::sdf,
-              .names = &keyNames,
-              .setting = {.mapState = ZEL_MAP_DEFAULT},
-              .marks = {'/', '[', ']'}};
+  route.to = {
+      .language = &keyLanguage, .names = &keyNames, .setting = {.mapState = ZEL_MAP_DEFAULT}, .marks = {'/', '[', ']'}};
   route.join();
   return route;
 }
@@ -235,7 +248,7 @@ bool setOptions(zelMappingRecord &mapping, const zelMappingOptions &options, con
   const auto separate = [&](Side &side, SpaceId space, const zelMappingSeparators &given, int number) {
     if (side.language == nullptr)
       return !isGiven(given) || complain("%s has no separators", spaceOf(space).descriptor.name);
-    return setSeparators(side, space, given, mapping.chosen[number], complain);
+    return setSeparators(side, space, given, mapping.isLenient, mapping.chosen[number], complain);
   };
   if (!separate(route.from, from, options.fromSeparators, 0) || !separate(back, to, options.toSeparators, 1))
     return false;

@@ -15,8 +15,8 @@ Bytes refused(zelRefusal &refusal, std::int32_t reason, std::size_t position) {
 // Whether a text is one word that stands as it is, a name or a path of one level.
 bool isPlainWord(const Route &route, const Name &text) {
   const bool isElement = (route.from.element != '\0' || route.to.element != '\0') && route.isElement(true);
-  return !isElement && route.takesWords() && text.isWord() && isNameLength(text) && !text.has(route.unless) &&
-         !hasPrefix(text.head()) && !route.isKeyword(text);
+  return !isElement && (route.printFlags & LevelPath::wholePathFlags) == 0 && route.takesWords() && text.isWord() &&
+         isNameLength(text) && !text.has(route.unless) && !hasPrefix(text.head()) && !route.isKeyword(text);
 }
 
 // One name, with its element letter where it has one.
@@ -66,7 +66,8 @@ Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &wor
   if (result.data() != nullptr)
     return result;
   refusal = work.levels.refusal;
-  if (!hasItems(route) || text.size() > LevelPath::longest || std::memchr(text.data(), '\0', text.size()) != nullptr)
+  if (text.empty() || !hasItems(route) || text.size() > LevelPath::longest ||
+      std::memchr(text.data(), '\0', text.size()) != nullptr)
     return {};
   // The grammars want a NUL, which ends a text of a column only here.
   std::memcpy(work.source, text.data(), text.size());
@@ -76,30 +77,61 @@ Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &wor
                           .from = route.from.setting,
                           .written = route.to.names,
                           .to = route.to.setting};
+  const int error = errno;
+  errno = 0;
   const char *items = mapByItems(*route.from.language, handle, *route.to.language, route.to.setting.handle,
                                  route.printFlags, names, nullptr, work.items);
   if (items == nullptr && names.refusal.reason == ZEL_REASON_NONE)
     names.refusal = {errno == ENOMEM ? ZEL_REASON_NO_MEMORY : ZEL_REASON_RESULT_TOO_LONG, 0};
+  else if (items != nullptr && *items == '\0')
+    names.refuse(names.text, ZEL_REASON_EMPTY); // blanks alone
+  errno = error;
   refusal = names.refusal;
   return refusal.reason == ZEL_REASON_NONE ? Bytes(items) : Bytes{};
 }
 
-char *finish(Bytes result, const zelRefusal &refusal, zelAllocFunc alloc, void *context) {
+// The string of a result, which may lie in the text; an allocator may write there: a ring marks its old results.
+char *finish(Bytes result, const zelRefusal &refusal, MappingWork &work, zelAllocFunc alloc, void *context) {
   if (result.data() == nullptr) {
     errno = refusal.reason == ZEL_REASON_NO_MEMORY ? ENOMEM : EINVAL;
     return nullptr;
   }
+  if (alloc != nullptr && result.size() <= maxName) {
+    std::memmove(work.source, result.data(), result.size());
+    result = {work.source, result.size()};
+  }
   return makeString(result, alloc, context);
 }
 
+// Nothing but memory and the grammar keeps a path from its result.
 char *applyLeniently(const zelMappingRecord &mapping, const char *text, zelAllocFunc alloc, void *context) {
   const Route &route = mapping.route;
-  if (!mapping.isNames)
-    return zelPathMapperEx(text, mapping.fromHandle, mapping.toHandle, route.printFlags, nullptr, nullptr, alloc,
-                           context);
   MappingWork work;
   zelRefusal refusal = {};
-  return finish(mapName(route, Name(nameBytes(text)), work, refusal), refusal, alloc, context);
+  if (mapping.isNames)
+    return finish(mapName(route, Name(nameBytes(text)), work, refusal), refusal, work, alloc, context);
+  const Bytes result = work.levels.map({text, strnlen(text, LevelPath::longest + 1)}, route);
+  if (result.data() != nullptr)
+    return makeString(result, alloc, context);
+  TransientNames names = {.text = text,
+                          .read = route.from.names,
+                          .from = route.from.setting,
+                          .written = route.to.names,
+                          .to = route.to.setting};
+  return mapByItems(*route.from.language, mapping.fromHandle, *route.to.language, route.to.setting.handle,
+                    route.printFlags, names, alloc, context);
+}
+
+// Why a mapping refuses a text.
+zelRefusal diagnose(const zelMappingRecord &mapping, const char *text) {
+  MappingWork work;
+  zelRefusal refusal = {};
+  if (mapping.isLenient && applyLeniently(mapping, text, nullptr, work.items) != nullptr)
+    return refusal;
+  mapText(mapping, mapping.route, {text, strnlen(text, LevelPath::longest + 1)}, work, refusal);
+  if (mapping.isLenient && refusal.reason == ZEL_REASON_NONE)
+    refusal.reason = ZEL_REASON_NOT_CONVERTED;
+  return refusal;
 }
 
 } // namespace
@@ -126,15 +158,14 @@ char *zelMappingApply(zelMapping mapping, const char *text, zelAllocFunc alloc, 
   MappingWork work;
   zelRefusal refusal = {};
   const Bytes result = mapText(*mapping, mapping->route, {text, strnlen(text, LevelPath::longest + 1)}, work, refusal);
-  return finish(result, refusal, alloc, context);
+  return finish(result, refusal, work, alloc, context);
 }
 
 std::int32_t zelDiagnose(zelMapping mapping, const char *text, zelRefusal *refusal) noexcept {
   zelRefusal found = {ZEL_REASON_BAD_ARGUMENT, 0};
   if (mapping != nullptr && text != nullptr) {
     const int error = errno;
-    MappingWork work;
-    mapText(*mapping, mapping->route, {text, strnlen(text, LevelPath::longest + 1)}, work, found);
+    found = diagnose(*mapping, text);
     errno = error;
   }
   if (refusal != nullptr)
@@ -150,7 +181,7 @@ char *zelMappingKey(zelMapping mapping, const char *text, zelAllocFunc alloc, vo
   MappingWork work;
   zelRefusal refusal = {};
   const Bytes key = mapText(*mapping, mapping->sourceKey, {text, strnlen(text, LevelPath::longest + 1)}, work, refusal);
-  return finish(key, refusal, alloc, context);
+  return finish(key, refusal, work, alloc, context);
 }
 
 std::int32_t zelMappingCheck(zelMapping mapping, const char *text, const char *result) noexcept {

@@ -57,11 +57,13 @@ zelPath zeli::parseBus(zelPath path, const PathLanguage &language, const char *t
     switch (classOf(marks, state, inBus, *text)) {
     case '\0':
       return inBus || state == divider ? reject(path, text) : path;
-    case aName:
+    case aName: {
+      const char *const begin = text;
       if (!appendName(path, language, text) || inBus || state == name)
-        return reject(path, text);
+        return reject(path, begin);
       state = name;
       continue;
+    }
     case aDivider:
       if (state == start) {
         path->flags |= flagLeadingDivider;

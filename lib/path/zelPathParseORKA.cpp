@@ -136,13 +136,15 @@ zelPath zeli::parseORKA(zelPath path, const PathLanguage &language, const char *
     switch (classOf(state, *text)) {
     case '\0':
       return depth < 1 && isOneOf(state, {name, listEnd, index}) ? path : reject(path, text);
-    case aName:
+    case aName: {
+      const char *const begin = text;
       if (!appendName(path, language, text, topPending ? kindTopMark : kindNone) ||
           isOneOf(state, {less, star, count, name, listEnd}))
-        return reject(path, text);
+        return reject(path, begin);
       topPending = false;
       state = name;
       continue;
+    }
     case aNumber: {
       const std::int32_t value = readDigits(text);
       if (!isNumber(value))

@@ -21,11 +21,13 @@ zelPath zeli::parseSpice(zelPath path, const PathLanguage &language, const char 
     switch (classOf(*text)) {
     case '\0':
       return state == dot ? reject(path, text) : path;
-    case aName:
+    case aName: {
+      const char *const begin = text;
       if (!appendName(path, language, text) || state == name)
-        return reject(path, text);
+        return reject(path, begin);
       state = name;
       continue;
+    }
     case '.':
       if (state != name)
         return reject(path, text);

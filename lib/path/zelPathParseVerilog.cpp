@@ -31,11 +31,13 @@ zelPath zeli::parseVerilog(zelPath path, const PathLanguage &language, const cha
       const bool isComplete = depth == 0 && !braceOpen && !inBracket && !isOneOf(state, {comma, dot});
       return isComplete ? path : reject(path, text);
     }
-    case aName:
+    case aName: {
+      const char *const begin = text;
       if (!appendName(path, language, text) || inBracket || state == name)
-        return reject(path, text);
+        return reject(path, begin);
       state = name;
       continue;
+    }
     case aNumber: {
       const bool isExpected = (inBracket && isOneOf(state, {bracket, colon})) || state == brace;
       if (!isExpected)

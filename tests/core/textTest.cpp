@@ -1,4 +1,4 @@
-// What is told of a name, sixteen bytes at a time, against one byte at a time.
+// What one pass over a name tells, sixteen bytes at a time, against one byte at a time.
 #include "core/text.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ struct Alone {
   }
 };
 
-int traitsOf(const std::string &name) {
+zeli::Traits traitsOf(const std::string &name) {
   int traits = 0;
   for (std::size_t i = 0; i < name.size(); ++i) {
     const char c = name[i];
@@ -26,12 +26,12 @@ int traitsOf(const std::string &name) {
     traits |= isUpper ? zeli::traitUpper : 0;
     traits |= c == '_' && i + 1 < name.size() && name[i + 1] == '_' ? zeli::traitTwoUnderscores : 0;
     traits |= isUpper || isDigit || (c >= 'a' && c <= 'z') || c == '_' ? 0 : zeli::traitOther;
+    traits |= (c >= '!' && c <= '~') || c == '\0' ? 0 : zeli::traitNotGraphic; // no name holds a zero
     traits |= c == '#' || c == '%' ? zeli::traitMark : c == '\\' ? zeli::traitBackslash : 0;
-    traits |= c > ' ' && c < '\x7f' ? 0 : zeli::traitNotGraphic;
     traits |= i == 0 ? (isDigit ? zeli::traitDigitFirst : c == '_' ? zeli::traitUnderscoreFirst : 0) : 0;
     traits |= i + 1 == name.size() && c == '_' ? zeli::traitUnderscoreLast : 0;
   }
-  return traits;
+  return static_cast<zeli::Traits>(traits);
 }
 std::uint64_t headOf(const std::string &name) {
   std::uint64_t head = 0;
@@ -54,7 +54,7 @@ TEST(Look, SeesEveryByteEverywhere) {
     expectSeen(std::string(size, 'a'));
     for (std::size_t at = 0; at < size; ++at) {
       std::string name(size, 'a');
-      for (int c = 1; c < 256; ++c) { // no name holds a zero
+      for (int c = 0; c < 256; ++c) {
         name[at] = static_cast<char>(c);
         expectSeen(name);
       }
