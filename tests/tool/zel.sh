@@ -125,7 +125,7 @@ gives 1 $'module\na\n\nx-\n' $'-:1:1: reserved word\n-:3:1: there is no name\n-:
 gives 1 $'top.logic\ntop.\\logic \n\\a .\\logic .logic\n' $'-:1:5: reserved word of the revision\n-:3:13: reserved word of the revision\n' 'zel check Verilog --keywords 1800-2017'
 gives 1 $'model\n' $'-:1:1: reserved word\n' 'zel check Kirra --names'
 gives 1 $'x y\n' '' 'zel check Verilog --quiet'
-gives 1 $'n\nx y\n' $'-:2:4: unexpected end\n' 'zel check Verilog --csv --field n'
+gives 1 $'n\nx y\n' $'-:2:3: unexpected character\n' 'zel check Verilog --csv --field n'
 
 # explain: spellings, why, and what is lost.
 row() { zel explain "${@:2}" | sed -n "s/^$1  *//p"; }
