@@ -67,6 +67,12 @@ void checkLenient(zelMappingOptions options, const char *text) {
                   : zelPathMapperEx(text, from.get(), to.get(), options.printFlags, nullptr, nullptr, memory...);
   });
   require(apply(lenient, text) == expected, "a lenient mapping answers as the functions do");
+  // Handles of DEF escape the pin delimiter and not the divider.
+  const auto isSeparatedDef = [](const char *space, const zelMappingSeparators &marks) {
+    return strcmp(space, "Def") == 0 && isGiven(marks);
+  };
+  if (isSeparatedDef(options.from, options.fromSeparators) || isSeparatedDef(options.to, options.toSeparators))
+    return;
   options.isLenient = 0;
   const char pin = options.fromSeparators.pinDelimiter != '\0' ? options.fromSeparators.pinDelimiter : ':';
   if (const Mapping strict = make(options);
@@ -103,7 +109,7 @@ void checkKeys(zelMappingOptions options, const std::string &text) {
             "keys are equal exactly where Idents are");
 }
 
-// Whether the target reads all that it writes for a text.
+// Whether the target reads all that it writes for a text (here with its key, for prefixes that readers add).
 bool isReadBack(const zelMappingOptions &options, const std::string &text, const std::string &result) {
   const std::string to = options.to;
   const auto holds = [&text](const char *part) { return text.find(part) != std::string::npos; };
@@ -160,7 +166,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     require(key(mapping, text.c_str()) == textKey, "the state of the process does not matter to keys");
     if (result) {
       const int32_t check = zelMappingCheck(mapping.get(), text.c_str(), result->c_str());
-      require(!isReadBack(options, text, *result) || check == ZEL_CHECK_SAME || check == ZEL_CHECK_CASE_LOST,
+      require(!isReadBack(options, text + textKey.value_or(""), *result) || check == ZEL_CHECK_SAME ||
+                  check == ZEL_CHECK_CASE_LOST,
               "what was written is read back");
     }
   }

@@ -106,7 +106,10 @@ bool setSeparators(Side &side, SpaceId space, const zelMappingSeparators &given,
   Separators defaults = isSpice ? Separators{'\0', '.', '\0', '\0'} : language.separators;
   if (hasPins)
     defaults.pinDelimiter = ':';
-  const Separators chosen = mergedSeparators(defaults, given);
+  Separators chosen = mergedSeparators(defaults, given);
+  // DEF's names escape the pin delimiter where they should the divider.
+  if (!hasPins && !isLenient)
+    chosen.pinDelimiter = chosen.divider;
   if (!areSeparators(chosen, hasPins, space == SpaceId::Lef || space == SpaceId::Def))
     return complain("these separators of %s cannot be told from each other or from names", language.name);
 
