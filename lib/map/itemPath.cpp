@@ -88,6 +88,19 @@ void explainName(const PathLanguage &language, zelHandle handle, TransientNames 
   names.refuse(place + inside.position, inside.reason);
 }
 
+// Tells more of a name that gives no Ident.
+void explainUnread(const PathLanguage &language, zelHandle handle, TransientNames &names) {
+  const char *const place = names.text + names.refusal.position;
+  const Operations &read = *names.read;
+  const Name name(Bytes(place, static_cast<std::size_t>(language.names.scan(place, handle) - place)));
+  if (name.size() > maxName || read.isLegal(name, names.from))
+    return;
+  const bool hasRules = read.rulesUnder != nullptr && names.from.handle != nullptr;
+  const zelRefusal inside =
+      hasRules ? read.rulesUnder(names.from.handle->separators).explain(name) : read.explain(name);
+  names.refusal = {inside.reason, names.refusal.position + inside.position};
+}
+
 } // namespace
 
 char *zeli::mapByItems(const PathLanguage &from, zelHandle fromHandle, const PathLanguage &to, zelHandle toHandle,
@@ -103,6 +116,8 @@ char *zeli::mapByItems(const PathLanguage &from, zelHandle fromHandle, const Pat
     explainName(from, path->handle, names, path->refusedAt);
   else
     names.refuse(names.text, errno == ENOMEM ? ZEL_REASON_NO_MEMORY : ZEL_REASON_NUMBER_OUT_OF_RANGE);
+  if (names.refusal.reason == ZEL_REASON_NOT_CONVERTED)
+    explainUnread(from, path->handle, names);
   zelFreePath(path, Arena::release, &arena);
   // cppcheck-suppress returnDanglingLifetime ; the result is the caller's memory, not the path's
   return result;

@@ -81,8 +81,10 @@ Separators mergedSeparators(const Separators &defaults, const zelMappingSeparato
           either(given.busOpen, defaults.busOpen), either(given.busClose, defaults.busClose)};
 }
 
-bool areSeparators(const Separators &separators, bool hasPins) {
-  constexpr ByteSet useless = wordChar | beyondAscii | white | chars("\\+-#");
+// Letters, signs and the marks of escapes, of which LEF and DEF have another, separate nothing.
+bool areSeparators(const Separators &separators, bool hasPins, bool isLayout) {
+  constexpr ByteSet inNumbersAndNames = wordChar | beyondAscii | white | chars("\\+-#");
+  const ByteSet useless = inNumbersAndNames | chars(isLayout ? "%" : "");
   const auto [pin, divider, open, close] = separators;
   const bool areMarks = !useless.has(divider) && !useless.has(open) && !useless.has(close) && divider != '\0' &&
                         (open != '\0') == (close != '\0');
@@ -104,8 +106,11 @@ bool setSeparators(Side &side, SpaceId space, const zelMappingSeparators &given,
   Separators defaults = isSpice ? Separators{'\0', '.', '\0', '\0'} : language.separators;
   if (hasPins)
     defaults.pinDelimiter = ':';
-  const Separators chosen = mergedSeparators(defaults, given);
-  if (!areSeparators(chosen, hasPins))
+  Separators chosen = mergedSeparators(defaults, given);
+  // DEF's names escape the pin delimiter where they should the divider.
+  if (!hasPins && !isLenient)
+    chosen.pinDelimiter = chosen.divider;
+  if (!areSeparators(chosen, hasPins, space == SpaceId::Lef || space == SpaceId::Def))
     return complain("these separators of %s cannot be told from each other or from names", language.name);
 
   void *memory = std::malloc(sizeof(ChosenSeparators));
@@ -264,7 +269,8 @@ bool setOptions(zelMappingRecord &mapping, const zelMappingOptions &options, con
     if (back.ownNames == nullptr && printing.redefines != Redefines::everything)
       route.to.marks = printing.writer.marks;
   }
-  route.tested = mapping.isNames ? nullptr : testedOf(source, isOfProcess);
+  if (!mapping.isNames)
+    route.tested = mapping.isLenient ? source->names.tested : testedOf(source, isOfProcess);
 
   if (options.keywords != nullptr) {
     const KeywordRevision *revision = findKeywordRevision(options.keywords);
@@ -274,7 +280,7 @@ bool setOptions(zelMappingRecord &mapping, const zelMappingOptions &options, con
     const bool isVerilog = to == SpaceId::Verilog || to == SpaceId::VerilogA || to == SpaceId::VerilogAMS;
     if (revision->isVHDL ? !isVHDL : !isVerilog)
       return complain("the revision %s is not one of the target", revision->name);
-    route.to.setting.isReserved = revision->isKeyword;
+    route.to.setting.isReserved = back.setting.isReserved = revision->isKeyword;
   }
   if (mapping.isLenient && (options.element != '\0' || options.keywords != nullptr || route.from.ownNames != nullptr ||
                             route.to.ownNames != nullptr || options.kind == ZEL_KIND_PIN))

@@ -3,6 +3,8 @@
 #include "map/levelPath.h"
 #include "map/mapping.h"
 
+#include "path/zelPathParse.h"
+
 using namespace zeli;
 
 namespace {
@@ -61,6 +63,9 @@ bool hasItems(const Route &route) {
          (route.to.pinDelimiter == '\0' || route.kind != ZEL_KIND_PIN);
 }
 
+// Whether the brackets of an index also hold a repeat count, which stands in front of a name.
+bool areRepeatsBracketed(const Route &route) { return route.from.language->reader.grammar == parseORKA; }
+
 Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &work, zelRefusal &refusal) {
   const Bytes result = work.levels.map(text, route);
   if (result.data() != nullptr)
@@ -76,7 +81,8 @@ Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &wor
                           .read = route.from.names,
                           .from = route.from.setting,
                           .written = route.to.names,
-                          .to = route.to.setting};
+                          .to = route.to.setting,
+                          .indexEnd = areRepeatsBracketed(route) ? '\0' : route.from.marks.busClose};
   const int error = errno;
   errno = 0;
   const char *items = mapByItems(*route.from.language, handle, *route.to.language, route.to.setting.handle,

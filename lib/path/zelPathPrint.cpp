@@ -202,6 +202,8 @@ void PrintRun::putIdent(const char *ident) { putIdent(identOf(ident), *language.
 void PrintRun::putIdentAt(Cursor cursor) {
   const char *const name = cursor.chunk->slots[slotOf(cursor.kind())].string;
   if (isText(cursor.kind()) && transient != nullptr) {
+    if (transient->isBehindIndex(name))
+      transient->refuse(name, ZEL_REASON_UNEXPECTED_CHARACTER);
     Text work;
     const Ident ident = readText(*languageOf(path), path, name, *transient->read, transient->from, work);
     leaveHandle(*transient->read);

@@ -27,7 +27,15 @@ struct TransientNames {
   Setting from;
   const Operations *written;
   Setting to;
+  char indexEnd = '\0'; // behind which no name may stand without a divider; NUL where one may
   zelRefusal refusal = {};
+
+  // The grammars begin a level there, which a name with brackets inside, a[3]_b, hardly means.
+  bool isBehindIndex(const char *name) const {
+    while (name != text && white.has(name[-1]))
+      --name;
+    return indexEnd != '\0' && name != text && name[-1] == indexEnd;
+  }
 
   void refuse(const char *at, std::int32_t reason) {
     if (refusal.reason == ZEL_REASON_NONE)

@@ -89,8 +89,9 @@ Ident ExtendedIdentifierRules::read(const Name &name, const Setting &setting, Te
   const std::int32_t state = mapStateOf(setting);
   if (isNormal(name))
     return {state == ZEL_MAP_VHDL ? 'S' : 'I', name};
-  return readExtended(name, work, escape, isCompatibility(state),
-                      [this](const Name &plain) { return isNormal(plain); });
+  return readExtended(name, work, escape, isCompatibility(state), [&](const Name &plain) {
+    return isNormal(plain) && (setting.isReserved == nullptr || !setting.isReserved(plain));
+  });
 }
 
 } // namespace zeli

@@ -17,7 +17,7 @@ constexpr bool hasPrefix(std::uint64_t head) {
 struct Setting {
   std::int32_t mapState = ZEL_MAP_UNSET; // ZEL_MAP_UNSET stands for that of the process
   zelHandle handle = nullptr;            // where a file may redefine separators; null stands for the current one
-  bool (*isReserved)(const Name &word) = nullptr; // words that a writer avoids beside the keywords of the space
+  bool (*isReserved)(const Name &word) = nullptr; // words that are reserved beside the keywords of the space
 };
 
 inline std::int32_t mapStateOf(const Setting &setting) {
