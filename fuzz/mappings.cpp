@@ -118,6 +118,10 @@ bool isReadBack(const zelMappingOptions &options, const std::string &text, const
   // Lists, repeats, blanks and references to libraries, which only some grammars have.
   if (text.find_first_of("{},&*( @") != std::string::npos)
     return false;
+  // Indexes without a name, and several of one name, which are a list.
+  for (size_t i = 0; i < text.size(); ++i)
+    if (strchr("[<(", text[i]) != nullptr && (i == 0 || strchr("/.|:%;!]>)", text[i - 1]) != nullptr))
+      return false;
   if (strcmp(options.from, "ORKA") == 0 && holds("<"))
     return false; // where steps are lists
   // LEF and DEF write blanks and control characters as they stand; paths cannot hold them.
