@@ -541,7 +541,7 @@ TEST(Mapping, readsATextOfItsOwnRing) {
     zelRing ring = nullptr;
     const auto map = [&](const char *text) { return zelMappingApply(mapping.get(), text, zelAllocRing, &ring); };
     const char *const text = map("abcdefgh");
-    for (int i = 0; i < 8; ++i)
+    for (int i = 0; i < 9; ++i)
       map("x");
     EXPECT_EQ(resultOf(map(text)), "abcdefgh") << options; // which is the tenth
     EXPECT_EQ(text[0], '@');
