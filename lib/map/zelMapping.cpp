@@ -57,10 +57,13 @@ Bytes mapName(const Route &route, const Name &given, MappingWork &work, zelRefus
 }
 
 // Whether the path object answers for a route as well as levels do.
-bool hasItems(const Route &route) {
-  return route.from.ownNames == nullptr && route.to.ownNames == nullptr && route.from.element == '\0' &&
-         route.to.element == '\0' && route.from.pinDelimiter == '\0' &&
-         (route.to.pinDelimiter == '\0' || route.kind != ZEL_KIND_PIN);
+bool hasItems(const Route &route, Bytes text) {
+  const Side &from = route.from;
+  // Where pins have a delimiter, only dividers in front are more than levels.
+  const bool isPinless = from.pinDelimiter == '\0' || (!text.empty() && text[0] == from.marks.divider &&
+                                                       text.find(from.pinDelimiter) == Bytes::npos);
+  return isPinless && from.ownNames == nullptr && route.to.ownNames == nullptr && from.element == '\0' &&
+         route.to.element == '\0' && (route.to.pinDelimiter == '\0' || route.kind != ZEL_KIND_PIN);
 }
 
 // Whether the brackets of an index also hold a repeat count, which stands in front of a name.
@@ -71,7 +74,7 @@ Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &wor
   if (result.data() != nullptr)
     return result;
   refusal = work.levels.refusal;
-  if (text.empty() || !hasItems(route) || text.size() > LevelPath::longest ||
+  if (text.empty() || !hasItems(route, text) || text.size() > LevelPath::longest ||
       std::memchr(text.data(), '\0', text.size()) != nullptr)
     return {};
   // The grammars want a NUL, which ends a text of a column only here.

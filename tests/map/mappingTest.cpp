@@ -299,6 +299,10 @@ TEST(Mapping, goesByThePathObjectBeyondLevels) {
       a[03]          a(3)
     Def Verilog:
       /u1/n          u1.n
+    Spef Verilog:
+      /u1/n          u1.n
+    Spef Spef:
+      /u1/n          /u1/n
     Verilog Verilog keywords=1800-2017:
       {logic,\a␣}    {\logic␣,a}
   )"))
