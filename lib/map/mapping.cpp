@@ -68,10 +68,9 @@ BackslashRules spiceRules(const Separators &separators) {
   const auto [pinDelimiter, divider, busOpen, busClose] = separators;
   const ByteSet marks = chars({divider, busOpen, busClose, '\\'});
   const ByteSet written = (wordChar | chars("!#$%*+-/<>[].")) - marks;
-  BackslashRules rules(written, graphic, (graphic - written) | chars("#"), {'#', graphic});
   // A bracket that is no index belongs to the name.
-  rules.plain = written | chars({busOpen, busClose});
-  return rules;
+  const ByteSet plain = written | chars({busOpen, busClose});
+  return {plain, graphic, (graphic - written) | chars("#"), {'#', graphic}};
 }
 
 // The separators of a side as they are with those that were given.

@@ -90,7 +90,7 @@ Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &wor
   if (items == nullptr && names.refusal.reason == ZEL_REASON_NONE)
     names.refusal = {errno == ENOMEM ? ZEL_REASON_NO_MEMORY : ZEL_REASON_RESULT_TOO_LONG, 0};
   else if (items != nullptr && *items == '\0')
-    names.refuse(names.text, ZEL_REASON_EMPTY); // blanks alone
+    names.refuse(names.text, allOf(text, white) ? ZEL_REASON_EMPTY : ZEL_REASON_NOT_WRITABLE);
   errno = error;
   refusal = names.refusal;
   return refusal.reason == ZEL_REASON_NONE ? Bytes(items) : Bytes{};
@@ -109,6 +109,12 @@ char *finish(Bytes result, const zelRefusal &refusal, MappingWork &work, zelAllo
   return makeString(result, alloc, context);
 }
 
+// Whether no mark that a file chose also stands for something else in its grammar: only the ':' of ranges does.
+bool areOwnMarks(const Side &side) {
+  const auto [divider, busOpen, busClose] = side.marks;
+  return side.setting.handle == nullptr || (divider != ':' && busOpen != ':' && busClose != ':');
+}
+
 // Nothing but memory and the grammar keeps a path from its result.
 char *applyLeniently(const zelMappingRecord &mapping, const char *text, zelAllocFunc alloc, void *context) {
   const Route &route = mapping.route;
@@ -116,9 +122,11 @@ char *applyLeniently(const zelMappingRecord &mapping, const char *text, zelAlloc
   zelRefusal refusal = {};
   if (mapping.isNames)
     return finish(mapName(route, Name(nameBytes(text)), work, refusal), refusal, work, alloc, context);
-  const Bytes result = work.levels.map({text, strnlen(text, LevelPath::longest + 1)}, route);
-  if (result.data() != nullptr)
-    return makeString(result, alloc, context);
+  if (areOwnMarks(route.from) && areOwnMarks(route.to)) {
+    const Bytes result = work.levels.map({text, strnlen(text, LevelPath::longest + 1)}, route);
+    if (result.data() != nullptr)
+      return makeString(result, alloc, context);
+  }
   TransientNames names = {.text = text,
                           .read = route.from.names,
                           .from = route.from.setting,
