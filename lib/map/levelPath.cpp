@@ -265,7 +265,7 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
       isPlain = isPlain && found == end;
       end = found;
     }
-    Bus bus;
+    Bus bus = {};
     const bool hasBus = begin()[end] == from.marks.busOpen && from.marks.busOpen != '\0';
     if (hasBus && !readBus(route, end, bus))
       return {};

@@ -151,9 +151,9 @@ struct KeyRules {
   Spelling spelling = Spelling(noEscape, anyByte, keySyntax);
 
   static constexpr PlainWords plainWords() { return {0, 0, traitUpper, '\0'}; }
-  bool isLegal(const Name &) const { return false; }
-  zelRefusal explain(const Name &) const { return {}; }
-  Ident read(const Name &, const Setting &, Text &) const { return refuseIdent(); }
+  static bool isLegal(const Name &) { return false; }
+  static zelRefusal explain(const Name &) { return {}; }
+  static Ident read(const Name &, const Setting &, Text &) { return refuseIdent(); }
   Bytes write(const Ident &ident, const Setting &, Text &work) const {
     return spell(work, ident.body, escape, spelling, !ident.isCaseSensitive());
   }
