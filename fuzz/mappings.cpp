@@ -31,7 +31,7 @@ bool isGiven(const zelMappingSeparators &marks) {
 bool hasPins(const char *space) { return strcmp(space, "Spef") == 0 || strcmp(space, "Spf") == 0; }
 
 Result apply(const Mapping &mapping, const char *text) {
-  const Result result = inEveryMemory([&](auto... memory) { return zelMappingApply(mapping.get(), text, memory...); });
+  Result result = inEveryMemory([&](auto... memory) { return zelMappingApply(mapping.get(), text, memory...); });
   zelRefusal refusal;
   const int32_t reason = zelDiagnose(mapping.get(), text, &refusal);
   require(reason == refusal.reason && reason >= ZEL_REASON_NONE && reason < ZEL_REASON_COUNT, "a reason");

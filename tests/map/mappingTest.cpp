@@ -75,7 +75,7 @@ public:
     zelRefusal refusal = {-1, 0};
     EXPECT_EQ(zelDiagnose(made, text.c_str(), &refusal), refusal.reason);
     EXPECT_EQ(zelDiagnose(made, text.c_str(), nullptr), refusal.reason);
-    const std::string result =
+    std::string result =
         convert([this](auto... arguments) { return zelMappingApply(made, arguments...); }, text.c_str());
     if (refusal.reason == ZEL_REASON_NONE)
       return result;
@@ -333,7 +333,9 @@ TEST(Mapping, addsTheWordsOfARevision) {
 }
 
 TEST(Mapping, knowsLimits) {
-  const Mapping toDef("Verilog Def"), toSpice("Verilog Spice element=X kind=instance"), names("Verilog Sdf names");
+  const Mapping toDef("Verilog Def");
+  const Mapping toSpice("Verilog Spice element=X kind=instance");
+  const Mapping names("Verilog Sdf names");
   const std::string longest(ZEL_MAX_NAME, 'n');
   for (const Mapping *mapping : {&toDef, &names}) {
     EXPECT_EQ(mapping->answer(longest), longest);
@@ -432,7 +434,8 @@ TEST(Mapping, namesItsSpaces) {
   for (const std::string &name : allSpaces()) {
     std::string other = name;
     std::transform(other.begin(), other.end(), other.begin(), [](unsigned char c) { return std::toupper(c); });
-    const Mapping mapping(name + " Ident"), again(other + " IDENT");
+    const Mapping mapping(name + " Ident");
+    const Mapping again(other + " IDENT");
     const std::string text = name == "Ident" ? "Sa" : "a";
     EXPECT_EQ(mapping.answer(text), again.answer(text)) << name;
   }
@@ -574,12 +577,13 @@ TEST(Mapping, hasAStateOfItsOwn) {
 
 // Each of two mappings answers as alone while threads share both.
 TEST(Mapping, isSharedByThreads) {
-  const Mapping slashes("Verilog Sdf"), dots("VHDL Sdf to=0.<> state=match");
+  const Mapping slashes("Verilog Sdf");
+  const Mapping dots("VHDL Sdf to=0.<> state=match");
   const char *const texts[] = {"u1.Clk[3]", "\\a/b ", "{a,b}", "module"};
   const char *const names[] = {":U1:Clk(3)", "\\a/b\\", "a(3 downto 0)", "signal"};
-  std::vector<std::string> expected;
+  std::string expected[4];
   for (int i = 0; i < 4; ++i)
-    expected.push_back(slashes.answer(texts[i]) + dots.answer(names[i]));
+    expected[i] = slashes.answer(texts[i]) + dots.answer(names[i]);
   std::thread threads[4];
   int differing[4] = {};
   for (int t = 0; t < 4; ++t)
