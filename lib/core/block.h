@@ -24,6 +24,8 @@ inline Block loadBlock(const char *bytes) {
   return block;
 }
 
+inline void storeBlock(char *bytes, Block block) { std::memcpy(bytes, &block, sizeof block); }
+
 inline std::uint64_t loadWord(const char *bytes) {
   std::uint64_t word = 0;
   std::memcpy(&word, bytes, sizeof word);
@@ -56,14 +58,60 @@ inline Block loadPart(const char *bytes, std::size_t size) {
   return reinterpret_cast<Block>(Words{headWord(bytes, size), tail});
 }
 
+// As memmove; names are so short that a call costs more than the copy.
+inline void moveBytes(char *to, const char *from, std::size_t size) {
+  if (size > 4 * blockBytes) {
+    std::memmove(to, from, size);
+  } else if (size >= blockBytes) {
+    // All is loaded before anything is stored. The parts overlap where there is less.
+    const Block first = loadBlock(from);
+    const Block last = loadBlock(from + size - blockBytes);
+    if (size > 2 * blockBytes) {
+      const Block second = loadBlock(from + blockBytes);
+      storeBlock(to + size - 2 * blockBytes, loadBlock(from + size - 2 * blockBytes));
+      storeBlock(to + blockBytes, second);
+    }
+    storeBlock(to, first);
+    storeBlock(to + size - blockBytes, last);
+  } else if (size >= sizeof(std::uint64_t)) {
+    const std::uint64_t first = loadWord(from);
+    const std::uint64_t last = loadWord(from + size - sizeof last);
+    std::memcpy(to, &first, sizeof first);
+    std::memcpy(to + size - sizeof last, &last, sizeof last);
+  } else if (size >= sizeof(std::uint32_t)) {
+    const std::uint32_t first = loadHalf(from);
+    const std::uint32_t last = loadHalf(from + size - sizeof last);
+    std::memcpy(to, &first, sizeof first);
+    std::memcpy(to + size - sizeof last, &last, sizeof last);
+  } else if (size != 0) {
+    const char first = from[0];
+    const char middle = from[size / 2];
+    const char last = from[size - 1];
+    to[0] = first;
+    to[size / 2] = middle;
+    to[size - 1] = last;
+  }
+}
+
 inline BlockTest isChar(Block block, char c) {
   return reinterpret_cast<BlockTest>(block == static_cast<unsigned char>(c));
 }
 
 inline BlockTest isWithin(Block block, char first, char last) {
-  const auto low = static_cast<unsigned char>(first);
-  const auto width = static_cast<unsigned char>(last - first);
-  return reinterpret_cast<BlockTest>(block - low <= width);
+  // Moved so that first is the least signed number: processors compare those at once.
+  using Signed = signed char __attribute__((vector_size(blockBytes)));
+  const auto moved = static_cast<unsigned char>(first + 128);
+  return reinterpret_cast<BlockTest>(reinterpret_cast<Signed>(block - moved) <=
+                                     static_cast<signed char>(last - first - 128));
+}
+
+// For tests of which no two hold for one byte: compilers make more of | than one instruction.
+inline BlockTest anyOf(BlockTest a, BlockTest b, BlockTest c) { return a + b + c; }
+
+// The first eight bytes, as headWord gives them.
+inline std::uint64_t headOf(Block block) {
+  using Words = std::uint64_t __attribute__((vector_size(blockBytes)));
+  return reinterpret_cast<Words>(block)[0];
 }
 
 // One bit a byte, the first byte's the lowest; the way for any processor.

@@ -116,7 +116,7 @@ struct Text {
   void put(char c) { bytes[size++] = c; }
 
   void put(Bytes s) {
-    std::memcpy(bytes + size, s.data(), s.size());
+    moveBytes(bytes + size, s.data(), s.size());
     size += s.size();
   }
 

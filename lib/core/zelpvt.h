@@ -33,7 +33,7 @@ inline char *makeString(Bytes text, zelAllocFunc alloc, void *context) {
   auto *result = static_cast<char *>(allocate(text.size() + 1, alloc, context));
   if (result == nullptr)
     return nullptr;
-  std::memmove(result, text.data(), text.size());
+  moveBytes(result, text.data(), text.size());
   result[text.size()] = '\0';
   return result;
 }
@@ -50,7 +50,7 @@ inline char *makeIdent(const Ident &ident, zelAllocFunc alloc, void *context, st
   auto *result = static_cast<char *>(allocate(body.size() + 2, alloc, context));
   if (result == nullptr)
     return nullptr;
-  std::memmove(result + 1, body.data(), body.size());
+  moveBytes(result + 1, body.data(), body.size());
   result[0] = ident.marker;
   result[body.size() + 1] = '\0';
   return result;

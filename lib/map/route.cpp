@@ -16,7 +16,7 @@ bool areMarks(const Punctuation &marks) {
 
 // Whether a handle says nothing that a side does not.
 bool isPlainHandle(zelHandle handle, const Operations &names, const Punctuation &marks) {
-  if (names.currentHandle != nullptr && names.currentHandle() != nullptr)
+  if (handleInForce(names) != nullptr)
     return false;
   return handle == nullptr || handle->kind == builtInHandle ||
          (areMarks(marks) && handle->names == &names && handle->rules->takesWords);
@@ -29,9 +29,9 @@ bool isSettled(const Operations *names) {
 } // namespace
 
 void Route::join() {
-  const PlainWords &target = to.names->plainWords;
-  unless = (tested != nullptr ? tested->plainWords.notRead : 0) | from.names->plainWords.notRead |
-           (from.names->plainWords.readAs != 'I' ? target.notWrittenSensitive : target.notWrittenInsensitive);
+  unless = barredBetween(from.names->plainWords, to.names->plainWords);
+  if (tested != nullptr)
+    unless |= tested->plainWords.notRead;
   auto *test = keywordTests;
   for (const Operations *names : {tested, from.names, to.names})
     if (names != nullptr && names->plainWords.isKeyword != nullptr &&

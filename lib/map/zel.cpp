@@ -6,20 +6,18 @@ using namespace zeli;
 namespace {
 
 // Whether a word is a name of both spaces as it stands. In the default mapping state only, which it must not determine.
-bool isPlain(const Name &name, const Operations &from, const Operations &to) {
-  if (!name.isWord() || hasPrefix(name.head()) || zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
-    return false;
-  const bool isSensitive = from.plainWords.readAs == 'S' || (from.plainWords.readAs == '\0' && name.has(traitUpper));
-  const auto isAs = [&name](const Operations &space, Traits unless) {
-    return !name.has(unless) && (space.plainWords.isKeyword == nullptr || !space.plainWords.isKeyword(name)) &&
-           (space.currentHandle == nullptr || space.currentHandle() == nullptr);
+inline bool isPlain(const Name &name, const Operations &from, const Operations &to) {
+  const auto isKeywordOf = [&name](const PlainWords &words) {
+    return words.isKeyword != nullptr && words.isKeyword(name);
   };
-  return isAs(from, from.plainWords.notRead) &&
-         isAs(to, isSensitive ? to.plainWords.notWrittenSensitive : to.plainWords.notWrittenInsensitive);
+  return !name.has(traitOther | barredBetween(from.plainWords, to.plainWords)) && !hasPrefix(name.head()) &&
+         zelMapState.load(std::memory_order_relaxed) == ZEL_MAP_DEFAULT && !isKeywordOf(from.plainWords) &&
+         (to.plainWords.isKeyword == from.plainWords.isKeyword || !isKeywordOf(to.plainWords)) &&
+         handleInForce(from) == nullptr && handleInForce(to) == nullptr;
 }
 
 // By way of the Ident.
-char *mapGeneral(const Name &given, const Space &from, const Space &to, zelAllocFunc alloc, void *context) {
+[[gnu::noinline]] char *mapGeneral(const Name &given, const Space &from, const Space &to, zelAllocFunc alloc, void *context) {
   Text readWork;
   const Ident ident = from.names->read(given, {}, readWork);
   if (to.id == SpaceId::Ident && ident.body.data() != nullptr)

@@ -70,10 +70,10 @@ public:
   }
 
   // As stored.
-  bool has(const Name &word) const { return find<false>(word, word.head()); }
+  bool has(const Name &word) const { return word.size() <= longest && find<false>(word, word.head()); }
 
   // In any case.
-  bool hasFolded(const Name &word) const { return find<true>(word, lowered(word.head())); }
+  bool hasFolded(const Name &word) const { return word.size() <= longest && find<true>(word, lowered(word.head())); }
 
 private:
   static constexpr std::size_t headBytes = 8;
@@ -90,6 +90,7 @@ private:
     const char *tail = ""; // behind the head
   };
 
+  std::size_t longest = 0;              // most names are longer
   std::uint16_t slots[slotCount] = {}; // 0 when empty, otherwise an entry, counted from 1
   Entry entries[count + 1];
 
@@ -101,6 +102,7 @@ private:
     std::uint64_t head = 0;
     for (std::size_t at = 0; at < headBytes && at < word.size(); ++at)
       head |= std::uint64_t{static_cast<unsigned char>(word[at])} << (8 * at);
+    longest = word.size() > longest ? word.size() : longest;
     entries[entry] = {head, word.size() > headBytes ? word.data() + headBytes : ""};
     std::size_t slot = slotOf(head);
     while (slots[slot] != 0)

@@ -16,8 +16,11 @@ namespace zeli {
 class HandleScope {
 public:
   HandleScope(zelHandle &namespaceHandle, zelHandle handle) : current(handle != nullptr ? &namespaceHandle : nullptr) {
-    if (current != nullptr)
-      *current = handle;
+    if (current == nullptr)
+      return;
+    if (!wasHandleInForce.load(std::memory_order_relaxed))
+      wasHandleInForce.store(true, std::memory_order_relaxed);
+    *current = handle;
   }
   ~HandleScope() {
     if (current != nullptr)
@@ -39,7 +42,7 @@ struct RedefinableRules {
   // Calls ask with the rules under a handle, null standing for the current one.
   template <typename Ask> auto under(zelHandle handle, Ask ask) const {
     if (handle == nullptr)
-      handle = namespaceHandle();
+      handle = handleInForce(namespaceHandle);
     if (handle == nullptr)
       return ask(builtIn);
     if (handle->names == &names)

@@ -43,6 +43,12 @@ struct PlainWords {
 };
 constexpr PlainWords anyWord = {0, 0, traitUpper, '\0'};
 
+// The traits without which a word that one space reads stands as it is in another.
+constexpr Traits barredBetween(const PlainWords &from, const PlainWords &to) {
+  // Where capitals make an Ident case-sensitive, an insensitive one has none that a writer could fold.
+  return from.notRead | (from.readAs == 'I' ? to.notWrittenInsensitive : to.notWrittenSensitive);
+}
+
 // The reasons that every space has for a refusal, or what it says itself of a name of the right length.
 template <typename Explain> zelRefusal explainLength(const Name &name, Explain explain) {
   if (name.empty())
@@ -75,9 +81,21 @@ struct Operations {
   BackslashRules (*rulesUnder)(const Separators &separators) = nullptr; // likewise
 };
 
+// Set by the first call that puts a handle in force. Until then no thread needs to look for one of its own, which takes
+// longer than the test of a name.
+inline constinit std::atomic<bool> wasHandleInForce{false};
+
+// The handle in force in this thread; null for the built-in one.
+inline zelHandle handleInForce(zelHandle &(*currentHandle)()) {
+  return wasHandleInForce.load(std::memory_order_relaxed) ? currentHandle() : nullptr;
+}
+inline zelHandle handleInForce(const Operations &names) {
+  return names.currentHandle == nullptr ? nullptr : handleInForce(names.currentHandle);
+}
+
 // What every call with a handle ends with: the built-in handle is the current one again.
 inline void leaveHandle(const Operations &names) {
-  if (names.currentHandle != nullptr)
+  if (handleInForce(names) != nullptr)
     names.currentHandle() = nullptr;
 }
 

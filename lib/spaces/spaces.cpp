@@ -2,6 +2,7 @@
 #include "spaces/spaces.h"
 
 #include <iterator>
+#include <utility>
 
 using namespace zeli;
 
@@ -33,6 +34,15 @@ template <Audience least> struct Names {
 constexpr Names<everybody> spaceNames;
 constexpr Names<engineers> allSpaceNames;
 
+// The character at a position, which behind the end of the name is NUL. Written out at every position: the names are so
+// short that a loop or a length costs more than it saves.
+template <std::size_t... before> char characterAt(const char *name, std::index_sequence<before...>) {
+  return (... && (name[before] != '\0')) ? name[sizeof...(before)] : '\0';
+}
+template <std::size_t position> char at(const char *name) {
+  return characterAt(name, std::make_index_sequence<position>());
+}
+
 SpaceId vhdlFamily(char fifth) {
   switch (fifth) {
   case '\0':
@@ -48,66 +58,68 @@ SpaceId vhdlFamily(char fifth) {
 
 } // namespace
 
-SpaceId zeli::recognise(const char *spaceName) {
-  if (spaceName == nullptr)
+SpaceId zeli::recognise(const char *name) {
+  if (name == nullptr)
     return SpaceId::none;
-  // A position behind the end of the name reads as NUL. The names are so short that a length costs more than it saves.
-  const auto at = [spaceName](int position) {
-    for (int i = 1; i < position; ++i)
-      if (spaceName[i] == '\0')
-        return '\0';
-    return spaceName[position];
-  };
-
-  switch (*spaceName) {
+  switch (*name) {
   case '4':
     return SpaceId::ORKA44;
   case 'A':
     return SpaceId::Ascii;
   case 'D':
     return SpaceId::Def;
-  case 'E':
-    if (at(1) == 's')
+  case 'E': {
+    const char fifth = at<4>(name);
+    if (at<1>(name) == 's')
       return SpaceId::EscORKA;
-    return at(4) == '\0' ? SpaceId::none : at(4) == '2' ? SpaceId::Edif200 : SpaceId::Edif300;
+    return fifth == '\0' ? SpaceId::none : fifth == '2' ? SpaceId::Edif200 : SpaceId::Edif300;
+  }
   case 'F':
-    if (at(1) == 'i')
+    if (at<1>(name) == 'i')
       return SpaceId::LibraryUnix;
-    return at(4) == 'T' ? SpaceId::FlatTessel : SpaceId::none;
+    return at<4>(name) == 'T' ? SpaceId::FlatTessel : SpaceId::none;
   case 'G':
-    return at(1) == 'c' ? SpaceId::Gcf : SpaceId::none;
+    return at<1>(name) == 'c' ? SpaceId::Gcf : SpaceId::none;
   case 'I':
     return SpaceId::Ident;
-  case 'K':
-    return at(5) == '\0' ? SpaceId::Kirra : at(5) == 'H' ? SpaceId::KirraHDL : SpaceId::none;
-  case 'L':
-    if (at(3) == '\0')
+  case 'K': {
+    const char sixth = at<5>(name);
+    return sixth == '\0' ? SpaceId::Kirra : sixth == 'H' ? SpaceId::KirraHDL : SpaceId::none;
+  }
+  case 'L': {
+    if (at<3>(name) == '\0')
       return SpaceId::Lef;
-    if (at(7) == '\0' || at(7) == 'U')
+    const char eighth = at<7>(name);
+    if (eighth == '\0' || eighth == 'U')
       return SpaceId::LibraryUnix;
-    return at(7) == 'N' ? SpaceId::LibraryNT : SpaceId::none;
+    return eighth == 'N' ? SpaceId::LibraryNT : SpaceId::none;
+  }
   case 'N':
     return SpaceId::NVerilog;
   case 'O':
     return SpaceId::ORKA;
   case 'P':
     return SpaceId::Print;
-  case 'S':
-    if (at(2) != '\0' && at(3) == '\0' && (at(1) == 'd' || at(1) == 'p'))
-      return at(1) == 'd' ? SpaceId::Sdf : SpaceId::Spf;
-    if (at(2) == 'i')
+  case 'S': {
+    const char second = at<1>(name);
+    if (at<2>(name) != '\0' && at<3>(name) == '\0' && (second == 'd' || second == 'p'))
+      return second == 'd' ? SpaceId::Sdf : SpaceId::Spf;
+    if (at<2>(name) == 'i')
       return SpaceId::Spice;
-    return at(3) != '\0' && at(4) == '\0' ? SpaceId::Spef : SpaceId::none;
+    return at<3>(name) != '\0' && at<4>(name) == '\0' ? SpaceId::Spef : SpaceId::none;
+  }
   case 'T':
     return SpaceId::Tessel;
-  case 'V':
-    if (at(1) == 'H')
-      return vhdlFamily(at(4));
-    if (at(2) == 'l')
+  case 'V': {
+    if (at<1>(name) == 'H')
+      return vhdlFamily(at<4>(name));
+    if (at<2>(name) == 'l')
       return SpaceId::Vellum;
-    if (const char eighth = at(7); eighth != 'A')
+    const char eighth = at<7>(name);
+    if (eighth != 'A')
       return eighth == '\0' ? SpaceId::Verilog : SpaceId::VerilogAMS;
-    return spaceName[8] == '\0' ? SpaceId::VerilogA : SpaceId::VerilogAMS;
+    return name[8] == '\0' ? SpaceId::VerilogA : SpaceId::VerilogAMS;
+  }
   default:
     return SpaceId::none;
   }

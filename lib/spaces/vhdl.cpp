@@ -54,14 +54,16 @@ constexpr const char *VHDL93Keywords[] = {"group",  "impure", "inertial",   "lit
 enum EnvironmentMode { unread, notSet, set };
 std::atomic<EnvironmentMode> environmentMode{unread};
 
+[[gnu::noinline]] EnvironmentMode readEnvironment() {
+  const char *value = std::getenv("ZEL_USE_VHDL87_KEYWORDS");
+  const EnvironmentMode mode = value != nullptr && (Bytes{value} == "YES" || Bytes{value} == "yes") ? set : notSet;
+  environmentMode.store(mode, std::memory_order_relaxed);
+  return mode;
+}
+
 bool isEnvironmentSet() {
-  EnvironmentMode mode = environmentMode.load(std::memory_order_relaxed);
-  if (mode == unread) {
-    const char *value = std::getenv("ZEL_USE_VHDL87_KEYWORDS");
-    mode = value != nullptr && (Bytes{value} == "YES" || Bytes{value} == "yes") ? set : notSet;
-    environmentMode.store(mode, std::memory_order_relaxed);
-  }
-  return mode == set;
+  const EnvironmentMode mode = environmentMode.load(std::memory_order_relaxed);
+  return (mode == unread ? readEnvironment() : mode) == set;
 }
 
 int vhdlMode() { return std::atomic_ref(ZEL_VHDL_TYPE).load(std::memory_order_relaxed); }
