@@ -76,7 +76,56 @@ struct Look {
   std::uint64_t head; // the first eight bytes, by which keywords are looked up
 };
 
+// The traits that the first byte of a name gives it.
+struct FirstTraits {
+  Traits of[256] = {};
+
+  constexpr FirstTraits() {
+    of[static_cast<unsigned char>('_')] = traitUnderscoreFirst;
+    for (int c = '0'; c <= '9'; ++c)
+      of[c] = traitDigitFirst;
+  }
+};
+inline constexpr FirstTraits firstTraits;
+
 // All of it but the kinds of other bytes, in one pass.
+inline Look lookHere(Bytes s) {
+  if (s.empty())
+    return {};
+  constexpr unsigned char caseBit = 'a' - 'A';
+  BlockTest word = ~BlockTest{};
+  Block unlike = {}; // the bits that some letter does not have
+  const auto underscoresIn = [&](Block block) {
+    const BlockTest isLetter = isWithin(block | caseBit, 'a', 'z');
+    const BlockTest underscore = isChar(block, '_');
+    word &= anyOf(isLetter, isWithin(block, '0', '9'), underscore);
+    unlike |= reinterpret_cast<Block>(isLetter) & ~block;
+    return underscore;
+  };
+  const auto pairsFrom = [&](std::size_t i) {
+    return bitsOf(underscoresIn(loadBlock(s.data() + i)) & isChar(loadBlock(s.data() + i - 1), '_'));
+  };
+
+  const bool isShort = s.size() < blockBytes;
+  const Block first = isShort ? loadPart(s.data(), s.size()) : loadBlock(s.data());
+  const std::uint32_t underscores = bitsOf(underscoresIn(first));
+  std::uint32_t pairs = underscores & underscores >> 1;
+  if (s.size() > blockBytes) {
+    const std::size_t last = s.size() - blockBytes;
+    for (std::size_t i = blockBytes; i < last; i += blockBytes)
+      pairs |= pairsFrom(i);
+    pairs |= pairsFrom(last);
+  }
+
+  const std::uint32_t words = bitsOf(word) | (isShort ? allBits << s.size() & allBits : 0);
+  const BlockTest isUpper = reinterpret_cast<BlockTest>((unlike & caseBit) == caseBit);
+  const int traits = (words != allBits ? traitOther | kindsOfOther : 0) | (bitsOf(isUpper) != 0 ? traitUpper : 0) |
+                     (pairs != 0 ? traitTwoUnderscores : 0) | firstTraits.of[static_cast<unsigned char>(s.front())] |
+                     (s.back() == '_' ? traitUnderscoreLast : 0);
+  return {static_cast<Traits>(traits), headOf(first)};
+}
+
+// The same as a call, for all but the busiest place.
 Look lookAt(Bytes s);
 
 // A name with what is known of it.

@@ -279,7 +279,7 @@ bool setOptions(zelMappingRecord &mapping, const zelMappingOptions &options, con
     const bool isVerilog = to == SpaceId::Verilog || to == SpaceId::VerilogA || to == SpaceId::VerilogAMS;
     if (revision->isVHDL ? !isVHDL : !isVerilog)
       return complain("the revision %s is not one of the target", revision->name);
-    route.to.setting.isReserved = back.setting.isReserved = revision->isKeyword;
+    route.to.setting.reserved = back.setting.reserved = &revision->isKeyword;
   }
   if (mapping.isLenient && (options.element != '\0' || options.keywords != nullptr || route.from.ownNames != nullptr ||
                             route.to.ownNames != nullptr || options.kind == ZEL_KIND_PIN))

@@ -2,6 +2,8 @@
 
 #include "path/zelPathParse.h"
 
+#include <algorithm>
+
 using namespace zeli;
 
 namespace {
@@ -22,9 +24,7 @@ bool isPlainHandle(zelHandle handle, const Operations &names, const Punctuation 
          (areMarks(marks) && handle->names == &names && handle->rules->takesWords);
 }
 
-bool isSettled(const Operations *names) {
-  return names == nullptr || names->plainWords.isSettled == nullptr || names->plainWords.isSettled();
-}
+bool isSettled(const Operations *names) { return names == nullptr || names->plainWords.isKeyword.isSettled(); }
 
 } // namespace
 
@@ -32,14 +32,19 @@ void Route::join() {
   unless = barredBetween(from.names->plainWords, to.names->plainWords);
   if (tested != nullptr)
     unless |= tested->plainWords.notRead;
-  auto *test = keywordTests;
+  const auto **end = keywordTests;
+  const auto add = [&](const KeywordTest &test) {
+    if (test.has == nullptr || (end != keywordTests && end[-1]->has == test.has))
+      return;
+    *end++ = &test;
+    longestKeyword = std::max(longestKeyword, test.longest);
+  };
   for (const Operations *names : {tested, from.names, to.names})
-    if (names != nullptr && names->plainWords.isKeyword != nullptr &&
-        (test == keywordTests || test[-1] != names->plainWords.isKeyword))
-      *test++ = names->plainWords.isKeyword;
-  if (to.setting.isReserved != nullptr)
-    *test++ = to.setting.isReserved;
-  *test = nullptr;
+    if (names != nullptr)
+      add(names->plainWords.isKeyword);
+  if (to.setting.reserved != nullptr)
+    add(*to.setting.reserved);
+  *end = nullptr;
   if (from.language != nullptr && from.language->reader.grammar == parseVerilog)
     unless |= traitDigitFirst;
 }

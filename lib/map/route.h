@@ -39,7 +39,8 @@ struct Route {
   std::int32_t kind = ZEL_KIND_NET;
   std::int32_t levels = ZEL_LEVELS_ALL;
   Traits unless = 0;
-  bool (*keywordTests[5])(const Name &word); // of tested, from and to, and the words reserved besides; null-terminated
+  const KeywordTest *keywordTests[5]; // of tested, from and to, and the words reserved besides; null-terminated
+  std::size_t longestKeyword = 0;
 
   // Once the sides are set.
   void join();
@@ -47,9 +48,11 @@ struct Route {
   // Whether a word of these traits stands as it is, unless it is a keyword. Only in the default mapping state.
   bool takesWords() const { return from.takesWords && to.takesWords; }
 
-  bool isKeyword(const Name &word) const {
+  bool isKeyword(const Name &word) const { return word.size() <= longestKeyword && isShortKeyword(word); }
+
+  bool isShortKeyword(const Name &word) const {
     for (const auto *test = keywordTests; *test != nullptr; ++test)
-      if ((*test)(word))
+      if ((**test)(word))
         return true;
     return false;
   }

@@ -7,17 +7,14 @@ namespace {
 
 // Whether a word is a name of both spaces as it stands. In the default mapping state only, which it must not determine.
 inline bool isPlain(const Name &name, const Operations &from, const Operations &to) {
-  const auto isKeywordOf = [&name](const PlainWords &words) {
-    return words.isKeyword != nullptr && words.isKeyword(name);
-  };
   return !name.has(traitOther | barredBetween(from.plainWords, to.plainWords)) && !hasPrefix(name.head()) &&
-         zelMapState.load(std::memory_order_relaxed) == ZEL_MAP_DEFAULT && !isKeywordOf(from.plainWords) &&
-         (to.plainWords.isKeyword == from.plainWords.isKeyword || !isKeywordOf(to.plainWords)) &&
-         handleInForce(from) == nullptr && handleInForce(to) == nullptr;
+         zelMapState.load(std::memory_order_relaxed) == ZEL_MAP_DEFAULT && !from.plainWords.isKeyword(name) &&
+         !to.plainWords.isKeyword(name) && handleInForce(from) == nullptr && handleInForce(to) == nullptr;
 }
 
 // By way of the Ident.
-[[gnu::noinline]] char *mapGeneral(const Name &given, const Space &from, const Space &to, zelAllocFunc alloc, void *context) {
+[[gnu::noinline]] char *mapGeneral(const Name &given, const Space &from, const Space &to, zelAllocFunc alloc,
+                                   void *context) {
   Text readWork;
   const Ident ident = from.names->read(given, {}, readWork);
   if (to.id == SpaceId::Ident && ident.body.data() != nullptr)
@@ -48,7 +45,8 @@ char *zelMapName(const char *fromName, const char *toName, const char *name, zel
   if (fromId == SpaceId::Ident)
     return to.descriptor.identToName(name, alloc, context);
 
-  const Name given(nameBytes(name));
+  const Bytes bytes = nameBytes(name);
+  const Name given(bytes, lookHere(bytes));
   if (alloc == nullptr && toId != SpaceId::Ident && isNameLength(given) && isPlain(given, *from.names, *to.names))
     return makeString(given, alloc, context);
   return mapGeneral(given, from, to, alloc, context);

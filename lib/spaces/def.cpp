@@ -49,7 +49,7 @@ static_assert(keywords.words() == 151);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
+constexpr KeywordTest isKeyword = foldedKeywordsOf<keywordTable>;
 
 constexpr BackslashRules rulesUnder(const Separators &separators) {
   return layoutFamily(layoutChar, chars({separators.pinDelimiter, separators.busOpen, separators.busClose}));

@@ -38,16 +38,13 @@ zelRefusal EscapedIdentifierRules::explain(const Name &name) const {
 
 Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const bool folds = foldsCase(ident, setting) && ident.body.has(traitUpper);
-  const auto isReserved = [&setting](const Name &word) {
-    return setting.isReserved != nullptr && setting.isReserved(word);
-  };
   if (isNormal(ident.body)) {
-    if (!folds && !isReserved(ident.body))
+    if (!folds && !setting.isReserved(ident.body))
       return ident.body;
     if (folds) {
       copyLowered(work, ident.body);
       const Name lowered(work.view(), 0);
-      if (!isKeyword(lowered) && !isReserved(lowered))
+      if (!isKeyword(lowered) && !setting.isReserved(lowered))
         return lowered;
       work.size = 0;
     }

@@ -13,7 +13,7 @@ struct EscapedIdentifierRules {
   ByteSet normal;
   HexEscape escape; // its literal bytes, the graphic ones, may stand in an escaped identifier
   Spelling spelling;
-  bool (*isKeyword)(const Name &word);
+  KeywordTest isKeyword;
 
   constexpr PlainWords plainWords() const {
     return {traitDigitFirst, traitDigitFirst, traitDigitFirst | traitUpper, 'S', isKeyword};
@@ -27,7 +27,7 @@ struct EscapedIdentifierRules {
 };
 
 constexpr EscapedIdentifierRules escapedIdentifierRules(const ByteSet &first, const ByteSet &normal,
-                                                        bool (*isKeyword)(const Name &word)) {
+                                                        const KeywordTest &isKeyword) {
   constexpr HexEscape escape = {'#', graphic};
   return {first, normal, escape, Spelling(escape, graphic), isKeyword};
 }

@@ -72,7 +72,7 @@ Bytes ExtendedIdentifierRules::write(const Ident &ident, const Setting &setting,
 
   // Capitals matter in a case-sensitive name; under VHDL and TANDEM compatibility in a case-insensitive one.
   const bool caseMatters = (state != ZEL_MAP_MATCH || ident.marker == 'F') && isSensitive != isCompatibility(state);
-  const bool isBasic = isNormal(body) && (setting.isReserved == nullptr || !setting.isReserved(body));
+  const bool isBasic = isNormal(body) && !setting.isReserved(body);
   const bool keepsCapitals = !caseMatters || !body.has(traitUpper);
   if (isBasic && keepsCapitals && (!isSensitive || !isForce(body)))
     return body;
@@ -90,7 +90,7 @@ Ident ExtendedIdentifierRules::read(const Name &name, const Setting &setting, Te
   if (isNormal(name))
     return {state == ZEL_MAP_VHDL ? 'S' : 'I', name};
   return readExtended(name, work, escape, isCompatibility(state), [&](const Name &plain) {
-    return isNormal(plain) && (setting.isReserved == nullptr || !setting.isReserved(plain));
+    return isNormal(plain) && !setting.isReserved(plain);
   });
 }
 

@@ -48,12 +48,11 @@ struct ExtendedIdentifierRules {
   ByteSet normal;
   HexEscape escape; // its literal bytes are the ones that may stand in an extended identifier
   Spelling spelling;
-  bool (*isKeyword)(const Name &word);
-  bool (*isSettled)() = nullptr; // see PlainWords
+  KeywordTest isKeyword;
 
   constexpr PlainWords plainWords() const {
     constexpr Traits never = traitDigitFirst | traitUnderscoreFirst | traitUnderscoreLast | traitTwoUnderscores;
-    return {never, never | traitUpper, never, 'I', isKeyword, isSettled};
+    return {never, never | traitUpper, never, 'I', isKeyword};
   }
 
   bool isNormal(const Name &name) const;

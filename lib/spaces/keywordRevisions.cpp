@@ -61,15 +61,20 @@ constexpr KeywordTable tableSince1364_2005(since1364_2005);
 constexpr KeywordTable tableSince1800_2017(since1800_2017);
 constexpr KeywordTable table1076_2008(in1076_2008);
 
+// Every revision of Verilog keeps the words of the one before.
+bool isIn1364_2001(const Name &word) { return tableSince1364_2001.has(word); }
+bool isIn1364_2005(const Name &word) { return isIn1364_2001(word) || tableSince1364_2005.has(word); }
+bool isIn1800_2017(const Name &word) { return isIn1364_2005(word) || tableSince1800_2017.has(word); }
+
+constexpr std::size_t longest1364_2005 = std::max(tableSince1364_2001.longest, tableSince1364_2005.longest);
+
 } // namespace
 
-bool zeli::isKeyword1364_2001(const Name &word) { return tableSince1364_2001.has(word); }
-
-bool zeli::isKeyword1364_2005(const Name &word) { return isKeyword1364_2001(word) || tableSince1364_2005.has(word); }
-
-bool zeli::isKeyword1800_2017(const Name &word) { return isKeyword1364_2005(word) || tableSince1800_2017.has(word); }
-
-bool zeli::isKeyword1076_2008(const Name &word) { return table1076_2008.hasFolded(word); }
+constexpr KeywordRevision zeli::keywordRevisions[] = {
+    {"1364-2001", false, {isIn1364_2001, tableSince1364_2001.longest}},
+    {"1364-2005", false, {isIn1364_2005, longest1364_2005}},
+    {"1800-2017", false, {isIn1800_2017, std::max(longest1364_2005, tableSince1800_2017.longest)}},
+    {"1076-2008", true, foldedKeywordsOf<table1076_2008>}};
 
 const KeywordRevision *zeli::findKeywordRevision(Bytes name) {
   constexpr Bytes publisher = "ieee ";

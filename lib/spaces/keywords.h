@@ -3,7 +3,7 @@
 #ifndef ZEL_SPACES_KEYWORDS_H
 #define ZEL_SPACES_KEYWORDS_H
 
-#include "core/zelpvt.h"
+#include "spaces/space.h"
 
 namespace zeli {
 
@@ -70,10 +70,12 @@ public:
   }
 
   // As stored.
-  bool has(const Name &word) const { return word.size() <= longest && find<false>(word, word.head()); }
+  bool has(const Name &word) const { return find<false>(word, word.head()); }
 
   // In any case.
-  bool hasFolded(const Name &word) const { return word.size() <= longest && find<true>(word, lowered(word.head())); }
+  bool hasFolded(const Name &word) const { return find<true>(word, lowered(word.head())); }
+
+  std::size_t longest = 0; // bytes
 
 private:
   static constexpr std::size_t headBytes = 8;
@@ -90,7 +92,6 @@ private:
     const char *tail = ""; // behind the head
   };
 
-  std::size_t longest = 0;              // most names are longer
   std::uint16_t slots[slotCount] = {}; // 0 when empty, otherwise an entry, counted from 1
   Entry entries[count + 1];
 
@@ -124,6 +125,12 @@ private:
     return *tail == '\0';
   }
 };
+
+// The tests by a table: of words as stored, and in any case.
+template <const auto &table>
+constexpr KeywordTest keywordsOf = {[](const Name &word) { return table.has(word); }, table.longest};
+template <const auto &table>
+constexpr KeywordTest foldedKeywordsOf = {[](const Name &word) { return table.hasFolded(word); }, table.longest};
 
 } // namespace zeli
 

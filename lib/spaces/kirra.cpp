@@ -36,7 +36,7 @@ static_assert(keywords.words() == 55);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(const Name &word) { return keywordTable.has(word); }
+constexpr KeywordTest isKeyword = keywordsOf<keywordTable>;
 
 constexpr ByteSet first = letter | chars("_");
 constexpr ByteSet nonFirst = wordChar | chars("!");

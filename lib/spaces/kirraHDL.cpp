@@ -52,7 +52,7 @@ static_assert(keywords.words() == 161);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(const Name &word) { return keywordTable.has(word); }
+constexpr KeywordTest isKeyword = keywordsOf<keywordTable>;
 
 constexpr EscapedIdentifierRules rules = escapedIdentifierRules(letter | chars("_"), wordChar, isKeyword);
 

@@ -68,7 +68,7 @@ static_assert(keywords.words() == 264);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
+constexpr KeywordTest isKeyword = foldedKeywordsOf<keywordTable>;
 
 // Other than in DEF, the divider is escaped instead of the pin delimiter, and a separator never stands plain.
 constexpr BackslashRules rulesUnder(const Separators &separators) {

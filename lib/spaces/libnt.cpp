@@ -32,7 +32,7 @@ bool quotesLetter(Bytes name, std::size_t i) {
 
 constexpr Spelling quotedCapitals = Spelling(fileNameEscape, fileNameChar, upper, '%');
 
-bool isDevice(const Name &word) { return isReserved(word); }
+constexpr KeywordTest isDevice = {[](const Name &word) { return isReserved(word); }, 4};
 
 struct LibraryNTRules : ClassEscapeRules {
   static constexpr PlainWords plainWords() { return {0, traitUpper, 0, 'I', isDevice}; }

@@ -13,11 +13,27 @@ constexpr bool hasPrefix(std::uint64_t head) {
   return (head & 0xFFFFFFFF) == forceHead || head == keywordHead;
 }
 
+// The reserved words of a space.
+struct KeywordTest {
+  bool (*has)(const Name &word) = nullptr;
+  std::size_t longest = 0; // bytes; most names are longer
+  // Zero until the first test determines which words are reserved; null where that is constant.
+  const std::atomic<std::int32_t> *determined = nullptr;
+
+  bool isSettled() const { return determined == nullptr || determined->load(std::memory_order_relaxed) != 0; }
+
+  bool operator()(const Name &word) const {
+    return (word.size() <= longest || !isSettled()) && has != nullptr && has(word);
+  }
+};
+
 // What a conversion depends on beside the name.
 struct Setting {
   std::int32_t mapState = ZEL_MAP_UNSET; // ZEL_MAP_UNSET stands for that of the process
   zelHandle handle = nullptr;            // where a file may redefine separators; null stands for the current one
-  bool (*isReserved)(const Name &word) = nullptr; // words that are reserved beside the keywords of the space
+  const KeywordTest *reserved = nullptr; // words that are reserved beside the keywords of the space; or null
+
+  bool isReserved(const Name &word) const { return reserved != nullptr && (*reserved)(word); }
 };
 
 inline std::int32_t mapStateOf(const Setting &setting) {
@@ -38,8 +54,7 @@ struct PlainWords {
   Traits notWrittenSensitive; // of a case-sensitive Ident
   Traits notWrittenInsensitive;
   char readAs; // the marker of their Idents; NUL where it depends on capitals
-  bool (*isKeyword)(const Name &word) = nullptr;
-  bool (*isSettled)() = nullptr; // whether isKeyword depends on nothing that its first call determines
+  KeywordTest isKeyword = {};
 };
 constexpr PlainWords anyWord = {0, 0, traitUpper, '\0'};
 
@@ -87,7 +102,9 @@ inline constinit std::atomic<bool> wasHandleInForce{false};
 
 // The handle in force in this thread; null for the built-in one.
 inline zelHandle handleInForce(zelHandle &(*currentHandle)()) {
-  return wasHandleInForce.load(std::memory_order_relaxed) ? currentHandle() : nullptr;
+  if (!wasHandleInForce.load(std::memory_order_relaxed)) [[likely]]
+    return nullptr;
+  return currentHandle();
 }
 inline zelHandle handleInForce(const Operations &names) {
   return names.currentHandle == nullptr ? nullptr : handleInForce(names.currentHandle);

@@ -43,7 +43,7 @@ static_assert(keywords.words() == 102);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(const Name &word) { return keywordTable.has(word); }
+constexpr KeywordTest isKeyword = keywordsOf<keywordTable>;
 
 constexpr ByteSet normal = wordChar | chars("!#$%*+-/<>[]");
 

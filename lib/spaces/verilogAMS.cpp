@@ -61,7 +61,7 @@ static_assert(keywords.words() == 223);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(const Name &word) { return keywordTable.has(word); }
+constexpr KeywordTest isKeyword = keywordsOf<keywordTable>;
 
 constexpr EscapedIdentifierRules rules = verilogFamily(isKeyword);
 

@@ -6,7 +6,7 @@
 
 namespace zeli {
 
-constexpr EscapedIdentifierRules verilogFamily(bool (*isKeyword)(const Name &word)) {
+constexpr EscapedIdentifierRules verilogFamily(const KeywordTest &isKeyword) {
   return escapedIdentifierRules(letter | chars("_"), wordChar | chars("$"), isKeyword);
 }
 

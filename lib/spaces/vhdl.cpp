@@ -51,18 +51,18 @@ constexpr const char *VHDL93Keywords[] = {"group",  "impure", "inertial",   "lit
                                           "sra",    "srl",    "unaffected", "xnor"};
 
 // Whether ZEL_USE_VHDL87_KEYWORDS asks for VHDL-87, kept from its first reading on.
-enum EnvironmentMode { unread, notSet, set };
-std::atomic<EnvironmentMode> environmentMode{unread};
+enum EnvironmentMode : std::int32_t { unread, notSet, set };
+std::atomic<std::int32_t> environmentMode{unread};
 
-[[gnu::noinline]] EnvironmentMode readEnvironment() {
+[[gnu::noinline]] std::int32_t readEnvironment() {
   const char *value = std::getenv("ZEL_USE_VHDL87_KEYWORDS");
-  const EnvironmentMode mode = value != nullptr && (Bytes{value} == "YES" || Bytes{value} == "yes") ? set : notSet;
+  const std::int32_t mode = value != nullptr && (Bytes{value} == "YES" || Bytes{value} == "yes") ? set : notSet;
   environmentMode.store(mode, std::memory_order_relaxed);
   return mode;
 }
 
 bool isEnvironmentSet() {
-  const EnvironmentMode mode = environmentMode.load(std::memory_order_relaxed);
+  const std::int32_t mode = environmentMode.load(std::memory_order_relaxed);
   return (mode == unread ? readEnvironment() : mode) == set;
 }
 
@@ -75,21 +75,18 @@ bool isIn93(Bytes word) {
   return false;
 }
 
-bool isKeyword(const Name &word) {
+bool isInMode(const Name &word) {
   // Every keyword test is a use of the environment.
   const int mode = vhdlMode();
   const bool isVHDL87 = mode == 1 || (mode == 0 && isEnvironmentSet());
   return keywordTable.hasFolded(word) && !(isVHDL87 && isIn93(word));
 }
 
-bool isSettled() { return vhdlMode() != 0 || environmentMode.load(std::memory_order_relaxed) != unread; }
-
-constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword, isSettled);
+constexpr KeywordTest isKeyword = {isInMode, keywordTable.longest, &environmentMode};
+constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword);
 
 // Without a mode: the words of 1993, whatever the process asks for.
-bool isKeyword93(const Name &word) { return keywordTable.hasFolded(word); }
-
-constexpr ExtendedIdentifierRules rules93 = vhdlFamily(isKeyword93);
+constexpr ExtendedIdentifierRules rules93 = vhdlFamily(foldedKeywordsOf<keywordTable>);
 
 } // namespace
 

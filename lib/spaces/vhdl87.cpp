@@ -40,7 +40,7 @@ static_assert(keywords.words() == 81);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
+constexpr KeywordTest isKeyword = foldedKeywordsOf<keywordTable>;
 
 constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword);
 

@@ -45,7 +45,7 @@ static_assert(keywords.words() == 110);
 
 constexpr KeywordTable<keywords.words()> keywordTable(keywords);
 
-bool isKeyword(const Name &word) { return keywordTable.hasFolded(word); }
+constexpr KeywordTest isKeyword = foldedKeywordsOf<keywordTable>;
 
 constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword);
 

@@ -6,9 +6,9 @@
 
 namespace zeli {
 
-constexpr ExtendedIdentifierRules vhdlFamily(bool (*isKeyword)(const Name &word), bool (*isSettled)() = nullptr) {
+constexpr ExtendedIdentifierRules vhdlFamily(const KeywordTest &isKeyword) {
   constexpr HexEscape escape = {'#', graphic | chars(" ")};
-  return {letter, wordChar, escape, spellingExtended(escape), isKeyword, isSettled};
+  return {letter, wordChar, escape, spellingExtended(escape), isKeyword};
 }
 
 } // namespace zeli
