@@ -93,6 +93,23 @@ inline void moveBytes(char *to, const char *from, std::size_t size) {
   }
 }
 
+// The eight bytes of a text of at least so many from a place in it on; fewer at its end, behind them zeros.
+inline std::uint64_t wordAt(const char *bytes, std::size_t size, std::size_t at) {
+  const std::size_t last = size - sizeof(std::uint64_t);
+  const std::size_t start = at < last ? at : last;
+  return loadWord(bytes + start) >> (8 * (at - start) & 63);
+}
+
+// Copies the part of a text from start up to end, where the sixteen bytes behind to are free.
+inline void copyRun(char *to, const char *bytes, std::size_t size, std::size_t start, std::size_t end) {
+  if (size < sizeof(std::uint64_t) || end - start > blockBytes) {
+    std::memcpy(to, bytes + start, end - start);
+    return;
+  }
+  const std::uint64_t words[2] = {wordAt(bytes, size, start), wordAt(bytes, size, start + sizeof(std::uint64_t))};
+  std::memcpy(to, words, sizeof words);
+}
+
 inline BlockTest isChar(Block block, char c) {
   return reinterpret_cast<BlockTest>(block == static_cast<unsigned char>(c));
 }
@@ -112,6 +129,10 @@ inline BlockTest anyOf(BlockTest a, BlockTest b, BlockTest c) { return a + b + c
 inline std::uint64_t headOf(Block block) {
   using Words = std::uint64_t __attribute__((vector_size(blockBytes)));
   return reinterpret_cast<Words>(block)[0];
+}
+
+inline BlockTest isWordChar(Block block) {
+  return anyOf(isWithin(block | ('a' - 'A'), 'a', 'z'), isWithin(block, '0', '9'), isChar(block, '_'));
 }
 
 // One bit a byte, the first byte's the lowest; the way for any processor.

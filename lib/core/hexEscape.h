@@ -64,8 +64,9 @@ struct HexEscape {
 // What each byte is written as: itself or an escape, behind a quote where one belongs. A table, so that no byte costs a
 // branch.
 struct Spelling {
-  char text[256][4] = {};
-  std::uint8_t size[256] = {}; // 0 for the mark of the escape, whose spelling depends on what stands behind it
+  // The bytes, four at the most, the first in the lowest place, and above them how many they are: none for the mark of
+  // the escape, whose spelling depends on what stands behind it.
+  std::uint64_t entries[256] = {};
   bool quotesMark = false;
   char quote = '\0';
   bool keepsGraphic = true; // whether graphic bytes stand for themselves, but for the mark and the backslash
@@ -79,18 +80,20 @@ struct Spelling {
       const auto c = static_cast<char>(i);
       if (c == escape.mark)
         continue;
+      std::uint64_t text = 0;
       int length = 0;
+      const auto add = [&](char byte) { text |= std::uint64_t{static_cast<unsigned char>(byte)} << (8 * length++); };
       if (quoted.has(c))
-        text[i][length++] = quote;
+        add(quote);
       if (standing.has(c)) {
-        text[i][length++] = c;
+        add(c);
       } else {
-        text[i][length++] = escape.mark;
-        text[i][length++] = HexEscape::digitOf(i >> 4);
-        text[i][length++] = HexEscape::digitOf(i);
+        add(escape.mark);
+        add(HexEscape::digitOf(i >> 4));
+        add(HexEscape::digitOf(i));
       }
-      size[i] = static_cast<std::uint8_t>(length);
-      if (graphic.has(c) && c != '\\' && (length != 1 || text[i][0] != c))
+      entries[i] = text | static_cast<std::uint64_t>(length) << 32;
+      if (graphic.has(c) && c != '\\' && (quoted.has(c) || !standing.has(c)))
         keepsGraphic = false;
     }
   }
@@ -119,15 +122,16 @@ inline void encodeMark(Text &out, Bytes body, std::size_t at, const HexEscape &e
     out.put(escape.mark);
 }
 
+// Writes body by a spelling, in lower case when it folds.
 template <bool folds> void encodeAs(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling) {
   char *to = out.bytes + out.size;
   for (std::size_t i = 0; i < body.size(); ++i) {
     // A byte that is lowered is never the mark.
-    const auto byte = static_cast<unsigned char>(folds ? toLower(body[i]) : body[i]);
-    std::memcpy(to, spelling.text[byte], sizeof spelling.text[byte]);
-    const std::size_t size = spelling.size[byte];
-    to += size;
-    if (size == 0) [[unlikely]] {
+    const std::uint64_t entry = spelling.entries[static_cast<unsigned char>(folds ? toLower(body[i]) : body[i])];
+    const auto text = static_cast<std::uint32_t>(entry);
+    std::memcpy(to, &text, sizeof text);
+    to += entry >> 32;
+    if (entry == 0) [[unlikely]] {
       out.size = static_cast<std::size_t>(to - out.bytes);
       encodeMark(out, body, i, escape, spelling);
       to = out.bytes + out.size;
@@ -136,7 +140,6 @@ template <bool folds> void encodeAs(Text &out, Bytes body, const HexEscape &esca
   out.size = static_cast<std::size_t>(to - out.bytes);
 }
 
-// Writes body by a spelling, in lower case when it folds.
 inline void encode(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
   if (folds)
     encodeAs<true>(out, body, escape, spelling);

@@ -181,6 +181,45 @@ struct Ident {
   bool isCaseSensitive() const { return marker != 'I'; }
 };
 
+// A bit for each byte of a block of s from i on, where there are so many / for each that no word has.
+inline std::uint32_t bytesFrom(Bytes s, std::size_t i) {
+  const std::size_t rest = s.size() - i;
+  return rest < blockBytes ? (1U << rest) - 1 : allBits;
+}
+inline std::uint32_t othersFrom(Bytes s, std::size_t i) {
+  const std::size_t rest = s.size() - i;
+  if (s.size() < blockBytes)
+    return ~bitsOf(isWordChar(loadPart(s.data(), s.size()))) & bytesFrom(s, 0);
+  const std::size_t start = rest < blockBytes ? s.size() - blockBytes : i;
+  return (~bitsOf(isWordChar(loadBlock(s.data() + start))) & allBits) >> (i - start);
+}
+
+// What a writer made of an Ident: text, which lies in the Ident or in the writer's Text, between two marks where there
+// are some. Without data, the Ident was refused.
+struct Spelled {
+  const char *data;
+  std::uint32_t length;
+  char open; // both NUL, or none
+  char close;
+
+  // NOLINTNEXTLINE(google-explicit-constructor): most spellings are but text
+  Spelled(Bytes text, char openMark = '\0', char closeMark = '\0')
+      : data(text.data()), length(static_cast<std::uint32_t>(text.size())), open(openMark), close(closeMark) {}
+
+  bool isRefused() const { return data == nullptr; }
+  std::size_t size() const { return length + (open != '\0' ? 2U : 0U); }
+
+  void copyTo(char *to) const {
+    if (open == '\0') {
+      moveBytes(to, data, length);
+      return;
+    }
+    moveBytes(to + 1, data, length); // first, for it may lie there
+    to[0] = open;
+    to[length + 1] = close;
+  }
+};
+
 // How a reader or a writer refuses its input.
 inline Bytes refuse() {
   errno = EINVAL;

@@ -21,10 +21,10 @@ inline void *allocate(std::size_t size, zelAllocFunc alloc, void *context) {
   return memory;
 }
 
-// The one copy at the end of an operation; text may lie in the caller's buffer that it goes to. Null for a text without
-// data (errno is then the writer's), EINVAL for an over-long one.
-inline char *makeString(Bytes text, zelAllocFunc alloc, void *context) {
-  if (text.data() == nullptr)
+// The one copy at the end of an operation; text may lie in the caller's buffer that it goes to. Null for a refused one
+// (errno is then the writer's), EINVAL for an over-long one.
+inline char *makeString(const Spelled &text, zelAllocFunc alloc, void *context) {
+  if (text.isRefused())
     return nullptr;
   if (text.size() > maxName) {
     errno = EINVAL;
@@ -33,9 +33,18 @@ inline char *makeString(Bytes text, zelAllocFunc alloc, void *context) {
   auto *result = static_cast<char *>(allocate(text.size() + 1, alloc, context));
   if (result == nullptr)
     return nullptr;
-  moveBytes(result, text.data(), text.size());
+  text.copyTo(result);
   result[text.size()] = '\0';
   return result;
+}
+
+// The same for what a writer made in work. An allocator of the caller's may write where the Ident lies: a ring marks
+// its old results.
+inline char *makeSpelled(const Spelled &text, Text &work, zelAllocFunc alloc, void *context) {
+  if (alloc == nullptr || text.isRefused() || text.data == work.bytes)
+    return makeString(text, alloc, context);
+  std::memmove(work.bytes, text.data, text.length);
+  return makeString({{work.bytes, text.length}, text.open, text.close}, alloc, context);
 }
 
 // The same for an Ident, whose body may be empty; limit is that of the body.

@@ -156,24 +156,24 @@ bool LevelPath::mapBus(const Route &route, std::size_t open, const Bus &bus) {
       bus.isRange
           ? std::snprintf(printed, sizeof printed, "%c%ld%s%ld%c", marks.busOpen, first, join, last, marks.busClose)
           : std::snprintf(printed, sizeof printed, "%c%ld%c", marks.busOpen, first, marks.busClose);
-  if (!flush(open) || !put({printed, static_cast<std::size_t>(length)}))
+  if (!flush(open) || !put(Bytes(printed, static_cast<std::size_t>(length))))
     return false;
   copied = bus.end;
   return true;
 }
 
-bool LevelPath::put(Bytes bytes) {
-  if (written + bytes.size() > maxName) {
+bool LevelPath::put(const Spelled &spelled) {
+  if (written + spelled.size() > maxName) {
     refuseAt(copied, ZEL_REASON_RESULT_TOO_LONG);
     return false;
   }
-  std::memcpy(respelled + 1 + written, bytes.data(), bytes.size());
-  written += bytes.size();
+  spelled.copyTo(respelled + 1 + written);
+  written += spelled.size();
   return true;
 }
 
 bool LevelPath::flush(std::size_t end) {
-  const bool isDone = put({begin() + copied, end - copied});
+  const bool isDone = put(Bytes(begin() + copied, end - copied));
   copied = end;
   return isDone;
 }
@@ -214,13 +214,13 @@ bool LevelPath::respell(const Route &route, std::size_t start, std::size_t end, 
     return false;
   }
   Text writeWork;
-  const Bytes spelled = route.to.write(ident, writeWork);
-  if (spelled.data() == nullptr || spelled.size() > maxName) {
-    refuseAt(nameStart, spelled.data() == nullptr ? ZEL_REASON_NOT_WRITABLE : ZEL_REASON_RESULT_TOO_LONG);
+  const Spelled spelled = route.to.write(ident, writeWork);
+  if (spelled.isRefused() || spelled.size() > maxName) {
+    refuseAt(nameStart, spelled.isRefused() ? ZEL_REASON_NOT_WRITABLE : ZEL_REASON_RESULT_TOO_LONG);
     return false;
   }
   const bool isLettered = isElement && route.to.element != '\0';
-  if (!flush(start) || (isLettered && !put({&route.to.element, 1})) || !put(spelled))
+  if (!flush(start) || (isLettered && !put(Bytes(&route.to.element, 1))) || !put(spelled))
     return false;
   copied = end;
   return true;

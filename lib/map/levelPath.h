@@ -55,7 +55,7 @@ private:
   bool mapBus(const Route &route, std::size_t open, const Bus &bus);
   bool respell(const Route &route, std::size_t start, std::size_t end, bool isElement);
   bool flush(std::size_t end);
-  bool put(Bytes bytes);
+  bool put(const Spelled &spelled);
 };
 
 } // namespace zeli

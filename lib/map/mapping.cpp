@@ -154,7 +154,7 @@ struct KeyRules {
   static bool isLegal(const Name &) { return false; }
   static zelRefusal explain(const Name &) { return {}; }
   static Ident read(const Name &, const Setting &, Text &) { return refuseIdent(); }
-  Bytes write(const Ident &ident, const Setting &, Text &work) const {
+  Spelled write(const Ident &ident, const Setting &, Text &work) const {
     return spell(work, ident.body, escape, spelling, !ident.isCaseSensitive());
   }
 };

@@ -25,7 +25,7 @@ struct Side {
       return ownNames != nullptr ? ownNames->explain(name) : as.explain(name);
     return as.rulesUnder(setting.handle->separators).explain(name);
   }
-  Bytes write(const Ident &ident, Text &work) const {
+  Spelled write(const Ident &ident, Text &work) const {
     return ownNames != nullptr ? ownNames->write(ident, setting, work) : names->write(ident, setting, work);
   }
 };

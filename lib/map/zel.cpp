@@ -22,14 +22,7 @@ inline bool isPlain(const Name &name, const Operations &from, const Operations &
   if (!isNameLength(ident.body))
     return makeString(refuse(), alloc, context);
   Text writeWork;
-  Bytes spelled = to.names->write(ident, {}, writeWork);
-  if (alloc != nullptr && spelled.data() != writeWork.bytes) {
-    // An allocator may write where the name lies: a ring marks its old results.
-    writeWork.size = 0;
-    writeWork.put(spelled);
-    spelled = writeWork.view();
-  }
-  return makeString(spelled, alloc, context);
+  return makeSpelled(to.names->write(ident, {}, writeWork), writeWork, alloc, context);
 }
 
 } // namespace

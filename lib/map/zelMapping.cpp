@@ -42,18 +42,17 @@ Bytes mapName(const Route &route, const Name &given, MappingWork &work, zelRefus
   }
   if (!isNameLength(ident.body))
     return refused(refusal, ident.body.empty() ? ZEL_REASON_NOT_CONVERTED : ZEL_REASON_TOO_LONG, start);
-  Bytes spelled = route.to.write(ident, work.writeWork);
+  const Spelled spelled = route.to.write(ident, work.writeWork);
   const bool isLettered = isElement && route.to.element != '\0';
-  if (spelled.data() == nullptr)
+  if (spelled.isRefused())
     return refused(refusal, ZEL_REASON_NOT_WRITABLE, start);
   if (spelled.size() + (isLettered ? 1 : 0) > maxName)
     return refused(refusal, ZEL_REASON_RESULT_TOO_LONG, start);
-  if (isLettered) {
-    work.items[0] = route.to.element;
-    std::memcpy(work.items + 1, spelled.data(), spelled.size());
-    spelled = {work.items, spelled.size() + 1};
-  }
-  return spelled;
+  if (!isLettered && spelled.open == '\0')
+    return {spelled.data, spelled.length};
+  work.items[0] = route.to.element;
+  spelled.copyTo(work.items + 1);
+  return isLettered ? Bytes(work.items, spelled.size() + 1) : Bytes(work.items + 1, spelled.size());
 }
 
 // Whether the path object answers for a route as well as levels do.

@@ -188,13 +188,13 @@ bool PrintRun::putIdent(const Ident &ident, const Operations &names, const Setti
     return false;
   }
   Text work;
-  const Bytes name = names.write(ident, setting, work);
+  const Spelled name = names.write(ident, setting, work);
   leaveHandle(names);
   if (name.size() > maxName)
     refuse();
-  else if (name.data() != nullptr)
-    put(name);
-  return name.data() != nullptr && name.size() <= maxName;
+  else if (!name.isRefused())
+    putName(name);
+  return !name.isRefused() && name.size() <= maxName;
 }
 
 void PrintRun::putIdent(const char *ident) { putIdent(identOf(ident), *language.writer.names, {.handle = handle}); }
@@ -244,7 +244,7 @@ void PrintRun::alternative() {
 char *zeli::printPath(const PathLanguage &language, zelPath path, zelHandle handle, std::int32_t flags,
                       zelAllocFunc alloc, void *context, TransientNames *transient) {
   if (firstItem(path).atEnd())
-    return makeString("", alloc, context);
+    return makeString(Bytes(""), alloc, context);
   const auto isAsked = [flags](int flag) { return (flags & flag) != 0; };
 
   const ItemPrinter &printer = *language.writer.printer;

@@ -77,6 +77,10 @@ struct PrintRun {
     std::memcpy(text + size, bytes.data(), bytes.size());
     size += bytes.size();
   }
+  void putName(const Spelled &name) {
+    name.copyTo(text + size);
+    size += name.size();
+  }
   void putNumber(std::int32_t number);
   void putIdent(const char *ident); // nothing for one that the target cannot write
   bool putIdent(const Ident &ident, const Operations &names, const Setting &setting);

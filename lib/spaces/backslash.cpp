@@ -28,7 +28,7 @@ zelRefusal BackslashRules::explain(const Name &name) const {
   });
 }
 
-Bytes BackslashRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+Spelled BackslashRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const bool folds = foldsCase(ident, setting) && ident.body.has(traitUpper);
   if (takesWords)
     return spell(work, ident.body, escape, spelling, folds);
@@ -54,24 +54,30 @@ Ident BackslashRules::readLegal(const Name &name, Text &work) const {
 BackslashRules::Unquoted BackslashRules::unquote(Text &out, Bytes name) const {
   const auto roleOf = [this](char c) -> unsigned { return roles[static_cast<unsigned char>(c)]; };
   char *to = out.bytes;
-  unsigned role = roleOf(name[0]);
-  unsigned isUnquoted = 1; // 0 for a byte behind a backslash that quotes it
-  unsigned isIllegal = 0;
+  std::size_t copied = 0; // up to here
+  std::size_t next = 0;   // what stands before is known
   unsigned seen = 0;
-  const auto copy = [&](char c, unsigned nextRole) {
-    const unsigned onlyQuotes = role / backslashRole & nextRole / escapableRole & isUnquoted;
-    isIllegal |= role / notPlainRole & isUnquoted & ~onlyQuotes;
-    seen |= role;
-    *to = c;
-    to += 1 - onlyQuotes;
-    isUnquoted = 1 - onlyQuotes;
-    role = nextRole;
+  const auto copyUpTo = [&](std::size_t end) {
+    copyRun(to, name.data(), name.size(), copied, end);
+    to += end - copied;
   };
-  for (std::size_t i = 1; i < name.size(); ++i)
-    copy(name[i - 1], roleOf(name[i]));
-  copy(name.back(), 0);
+  for (std::size_t i = 0; i < name.size(); i += blockBytes)
+    for (std::uint32_t bits = takesWords ? othersFrom(name, i) : bytesFrom(name, i); bits != 0; bits &= bits - 1) {
+      const std::size_t at = i + static_cast<std::size_t>(__builtin_ctz(bits));
+      if (at < next)
+        continue;
+      if (!quotes(name, at)) {
+        seen |= roleOf(name[at]);
+        continue;
+      }
+      copyUpTo(at);
+      copied = at + 1;
+      next = at + 2;
+      seen |= roleOf(name[copied]) & ~unsigned{notPlainRole};
+    }
+  copyUpTo(name.size());
   out.size = static_cast<std::size_t>(to - out.bytes);
-  return {isIllegal == 0, seen};
+  return {(seen & notPlainRole) == 0, seen};
 }
 
 Ident BackslashRules::identOfUnquoted(const Name &name, unsigned rolesSeen, Text &work) const {

@@ -16,14 +16,8 @@ struct BackslashRules {
   bool takesWords;  // false where a file chose a letter, digit or '_' as a separator
   bool quotesWords; // whether a backslash may stand before one of these
 
-  // What each byte is to the reader, so that no byte costs it a branch.
-  enum Role : std::uint8_t {
-    escapableRole = 1,
-    backslashRole = 2,
-    notPlainRole = 4,
-    markRole = 8,
-    notGraphicRole = 16
-  };
+  // What each byte is to the reader.
+  enum Role : std::uint8_t { backslashRole = 1, notPlainRole = 2, markRole = 4, notGraphicRole = 8 };
   std::uint8_t roles[256] = {};
 
   // quoted: the bytes that the writer puts a backslash before, also when it writes them as an escape.
@@ -37,9 +31,9 @@ struct BackslashRules {
         takesWords = takesWords && !quoted.has(c) && plain.has(c);
         quotesWords = quotesWords || escapable.has(c);
       }
-      roles[i] = static_cast<std::uint8_t>((escapable.has(c) ? escapableRole : 0) | (c == '\\' ? backslashRole : 0) |
-                                           (plain.has(c) ? 0 : notPlainRole) | (c == '#' || c == '%' ? markRole : 0) |
-                                           (graphic.has(c) ? 0 : notGraphicRole));
+      roles[i] =
+          static_cast<std::uint8_t>((c == '\\' ? backslashRole : 0) | (plain.has(c) ? 0 : notPlainRole) |
+                                    (c == '#' || c == '%' ? markRole : 0) | (graphic.has(c) ? 0 : notGraphicRole));
     }
   }
 
@@ -57,7 +51,7 @@ struct BackslashRules {
 
   bool isLegal(const Name &name) const;
   zelRefusal explain(const Name &name) const;
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const;
   Ident read(const Name &name, const Setting &setting, Text &work) const;
 
   // The Ident of a name that has been found good.
@@ -66,7 +60,7 @@ struct BackslashRules {
 private:
   struct Unquoted {
     bool isLegal;
-    unsigned roles; // of all bytes
+    unsigned roles; // of all bytes but the backslashes that only quote, as far as words do not have them
   };
 
   // Copies a name to out without the backslashes that only quote.

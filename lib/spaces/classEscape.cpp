@@ -8,7 +8,7 @@ bool ClassEscapeRules::isLegal(const Name &name) const {
   return (spelling.keepsGraphic && !name.withKinds().has(traitNotGraphic)) || isMadeOf(name, escape.literal);
 }
 
-Bytes ClassEscapeRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+Spelled ClassEscapeRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   return spell(work, ident.body, escape, spelling, foldsCase(ident, setting) && ident.body.has(traitUpper));
 }
 

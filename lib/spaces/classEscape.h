@@ -17,7 +17,7 @@ struct ClassEscapeRules {
   zelRefusal explain(const Name &name) const {
     return explainLength(name, [&] { return explainFirst(name, 0, escape.literal); });
   }
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const;
   Ident read(const Name &name, const Setting &setting, Text &work) const;
 };
 

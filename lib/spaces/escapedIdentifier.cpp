@@ -36,7 +36,7 @@ zelRefusal EscapedIdentifierRules::explain(const Name &name) const {
   });
 }
 
-Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+Spelled EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const bool folds = foldsCase(ident, setting) && ident.body.has(traitUpper);
   if (isNormal(ident.body)) {
     if (!folds && !setting.isReserved(ident.body))
@@ -50,10 +50,7 @@ Bytes EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, 
     }
   }
 
-  work.put('\\');
-  spell(work, ident.body, escape, spelling, folds);
-  work.put(' ');
-  return work.view();
+  return {spell(work, ident.body, escape, spelling, folds), '\\', ' '};
 }
 
 Ident EscapedIdentifierRules::read(const Name &name, const Setting &, Text &work) const {

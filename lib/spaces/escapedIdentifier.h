@@ -22,7 +22,7 @@ struct EscapedIdentifierRules {
   bool isNormal(const Name &name) const;
   bool isLegal(const Name &name) const;
   zelRefusal explain(const Name &name) const;
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const;
   Ident read(const Name &name, const Setting &setting, Text &work) const;
 };
 

@@ -15,7 +15,7 @@ template <typename Rules> char *writeName(const Rules &rules, const char *ident,
   if (view.body.data() == nullptr)
     return nullptr;
   Text work;
-  return makeString(rules.write(view, Setting{}, work), alloc, context);
+  return makeSpelled(rules.write(view, Setting{}, work), work, alloc, context);
 }
 
 template <typename Rules> char *readName(const Rules &rules, const char *name, zelAllocFunc alloc, void *context) {

@@ -24,11 +24,8 @@ bool isLegalExtended(Bytes name, const ByteSet &escapable) {
   return isClosing;
 }
 
-Bytes writeExtended(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds) {
-  work.put('\\');
-  spell(work, {skipForce(body), body.look.traits}, escape, spelling, folds);
-  work.put('\\');
-  return work.view();
+Spelled writeExtended(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+  return {spell(work, {skipForce(body), body.look.traits}, escape, spelling, folds), '\\', '\\'};
 }
 
 bool ExtendedIdentifierRules::isNormal(const Name &name) const {
@@ -65,7 +62,7 @@ zelRefusal ExtendedIdentifierRules::explain(const Name &name) const {
   });
 }
 
-Bytes ExtendedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+Spelled ExtendedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const std::int32_t state = mapStateOf(setting);
   const bool isSensitive = ident.isCaseSensitive();
   const Name &body = ident.body;
@@ -89,9 +86,8 @@ Ident ExtendedIdentifierRules::read(const Name &name, const Setting &setting, Te
   const std::int32_t state = mapStateOf(setting);
   if (isNormal(name))
     return {state == ZEL_MAP_VHDL ? 'S' : 'I', name};
-  return readExtended(name, work, escape, isCompatibility(state), [&](const Name &plain) {
-    return isNormal(plain) && !setting.isReserved(plain);
-  });
+  return readExtended(name, work, escape, isCompatibility(state),
+                      [&](const Name &plain) { return isNormal(plain) && !setting.isReserved(plain); });
 }
 
 } // namespace zeli

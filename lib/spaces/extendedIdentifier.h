@@ -23,7 +23,7 @@ constexpr Spelling spellingExtended(const HexEscape &escape) { return Spelling(e
 inline bool quotesBackslash(Bytes s, std::size_t i) { return s[i] == '\\' && i + 1 < s.size() && s[i + 1] == '\\'; }
 
 // body, without a force prefix, as an extended identifier.
-Bytes writeExtended(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds);
+Spelled writeExtended(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds);
 
 // Reads an extended identifier. A content that would also be a name as it stands keeps the force prefix, by which it is
 // written back extended; one with capitals only when keepsCapitals.
@@ -58,7 +58,7 @@ struct ExtendedIdentifierRules {
   bool isNormal(const Name &name) const;
   bool isLegal(const Name &name) const;
   zelRefusal explain(const Name &name) const;
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const;
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const;
   Ident read(const Name &name, const Setting &setting, Text &work) const;
 };
 

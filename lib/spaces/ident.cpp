@@ -33,7 +33,7 @@ struct IdentRules {
     return isLegal(name) ? Ident{name[0], Name(from(name, 1))} : refuseIdent();
   }
 
-  static Bytes write(const Ident &ident, const Setting &, Text &work) {
+  static Spelled write(const Ident &ident, const Setting &, Text &work) {
     work.put(ident.marker);
     work.put(ident.body);
     return work.view();

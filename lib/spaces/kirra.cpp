@@ -105,7 +105,7 @@ struct KirraRules : BackslashRules {
     return isKeyword(name) ? zelRefusal{ZEL_REASON_RESERVED_WORD, 0} : BackslashRules::explain(name);
   }
 
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const {
     const Name &body = ident.body;
     const char initial = body[0];
     if (digit.has(initial) && isDigitStartName(body)) {
@@ -116,9 +116,10 @@ struct KirraRules : BackslashRules {
     }
     if (plain.has(initial) && !first.has(initial))
       work.put('\\');
-    const Bytes written = BackslashRules::write(ident, setting, work);
+    const Spelled spelled = BackslashRules::write(ident, setting, work);
+    const Bytes written(spelled.data, spelled.length);
     if (!needsPrefix(written))
-      return written;
+      return spelled;
     std::memmove(work.bytes + keywordPrefix.size(), written.data(), written.size());
     std::memcpy(work.bytes, keywordPrefix.data(), keywordPrefix.size());
     work.size = keywordPrefix.size() + written.size();

@@ -58,7 +58,7 @@ struct LibraryNTRules : ClassEscapeRules {
   }
 
   // A case-insensitive name keeps its capitals; they do not matter to the file system.
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const {
     const Name &body = ident.body;
     const bool isSensitive = ident.isCaseSensitive();
     if (isReserved(body) && !(isSensitive && body.has(traitUpper))) {

@@ -9,7 +9,7 @@ namespace {
 
 struct LibraryUnixRules : ClassEscapeRules {
   // Folds also in the mapping state MATCH.
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const {
     const std::int32_t state = mapStateOf(setting);
     const bool dropsForce = ident.isCaseSensitive() && (state == ZEL_MAP_MATCH || state == ZEL_MAP_TANDEM);
     const Name body = dropsForce && isForce(ident.body) ? Name(skipForce(ident.body)) : ident.body;

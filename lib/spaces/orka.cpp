@@ -49,7 +49,7 @@ struct ORKARules {
     });
   }
 
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const {
     const bool folds = foldsCase(ident, setting);
     const Name &body = ident.body;
     if (body.isWord())
@@ -95,7 +95,7 @@ struct EscORKARules {
     return {ZEL_REASON_UNTERMINATED_ESCAPE, static_cast<std::uint32_t>(name.size())};
   }
 
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const {
     const bool folds = foldsCase(ident, setting);
     const bool wasExtended = ident.isCaseSensitive() && isForce(ident.body);
     if (wasExtended || !rules.isLegal(ident.body))

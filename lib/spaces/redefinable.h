@@ -56,7 +56,7 @@ struct RedefinableRules {
   Ident read(const Name &name, const Setting &setting, Text &work) const {
     return under(setting.handle, [&](const BackslashRules &rules) { return rules.read(name, setting, work); });
   }
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const {
     return under(setting.handle, [&](const BackslashRules &rules) { return rules.write(ident, setting, work); });
   }
   zelRefusal explain(const Name &name) const {

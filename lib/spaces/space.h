@@ -89,7 +89,7 @@ struct Separators;
 struct Operations {
   bool (*isLegal)(const Name &name, const Setting &setting);
   Ident (*read)(const Name &name, const Setting &setting, Text &work);
-  Bytes (*write)(const Ident &ident, const Setting &setting, Text &work);
+  Spelled (*write)(const Ident &ident, const Setting &setting, Text &work);
   zelRefusal (*explain)(const Name &name); // why and where a name that is not read is refused
   PlainWords plainWords;
   zelHandle &(*currentHandle)() = nullptr;                              // where a file may redefine separators

@@ -101,7 +101,7 @@ struct VellumRules {
 
   // Only a name between backslashes has case. In the mapping state MATCH none needs it, and the force prefix alone
   // tells that a name stood between them.
-  Bytes write(const Ident &ident, const Setting &setting, Text &work) const {
+  Spelled write(const Ident &ident, const Setting &setting, Text &work) const {
     const bool keepsCase = mapStateOf(setting) == ZEL_MAP_MATCH && ident.marker != 'F';
     if (ident.isCaseSensitive() && (keepsCase ? isForce(ident.body) : ident.body.has(traitUpper)))
       return writeExtended(work, ident.body, escape, extended, false);
