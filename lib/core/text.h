@@ -137,6 +137,15 @@ struct Name : Bytes {
   Name(Bytes bytes, Look known) : Bytes(bytes), look(known) {}
   Name(Bytes bytes, Traits traits) : Bytes(bytes), look{traits, headWord(bytes.data(), bytes.size())} {}
 
+  // Member by member: a copy in blocks of what was just put together waits until that has reached memory.
+  Name(const Name &other) : Bytes(other.data(), other.size()), look{other.look.traits, other.look.head} {}
+  Name &operator=(const Name &other) {
+    Bytes::operator=(Bytes(other.data(), other.size()));
+    look.traits = other.look.traits;
+    look.head = other.look.head;
+    return *this;
+  }
+
   bool has(Traits wanted) const { return (look.traits & wanted) != 0; }
   std::uint64_t head() const { return look.head; }
   bool isWord() const { return !has(traitOther); }
@@ -181,17 +190,17 @@ struct Ident {
   bool isCaseSensitive() const { return marker != 'I'; }
 };
 
-// A bit for each byte of a block of s from i on, where there are so many / for each that no word has.
-inline std::uint32_t bytesFrom(Bytes s, std::size_t i) {
-  const std::size_t rest = s.size() - i;
-  return rest < blockBytes ? (1U << rest) - 1 : allBits;
-}
-inline std::uint32_t othersFrom(Bytes s, std::size_t i) {
-  const std::size_t rest = s.size() - i;
-  if (s.size() < blockBytes)
-    return ~bitsOf(isWordChar(loadPart(s.data(), s.size()))) & bytesFrom(s, 0);
-  const std::size_t start = rest < blockBytes ? s.size() - blockBytes : i;
-  return (~bitsOf(isWordChar(loadBlock(s.data() + start))) & allBits) >> (i - start);
+// Gives look the bytes of s in blocks and where these begin, with zeros behind fewer bytes than a block's. The last
+// block may begin before the end of the one before it.
+template <typename LookAtBlock> void forEachBlock(Bytes s, LookAtBlock look) {
+  if (s.size() < blockBytes) {
+    look(loadPart(s.data(), s.size()), 0);
+    return;
+  }
+  const std::size_t last = s.size() - blockBytes;
+  for (std::size_t i = 0; i < last; i += blockBytes)
+    look(loadBlock(s.data() + i), i);
+  look(loadBlock(s.data() + last), last);
 }
 
 // What a writer made of an Ident: text, which lies in the Ident or in the writer's Text, between two marks where there

@@ -52,32 +52,54 @@ Ident BackslashRules::readLegal(const Name &name, Text &work) const {
 }
 
 BackslashRules::Unquoted BackslashRules::unquote(Text &out, Bytes name) const {
-  const auto roleOf = [this](char c) -> unsigned { return roles[static_cast<unsigned char>(c)]; };
+  if (const Unquoted unquoted = unquoteEach(out, name); unquoted.isLegal)
+    return unquoted;
+  Unquoted result = {true, 0};
+  out.size = 0;
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    if (quotes(name, i))
+      ++i;
+    else
+      result.isLegal = result.isLegal && plain.has(name[i]);
+    result.roles |= roles[static_cast<unsigned char>(name[i])];
+    out.put(name[i]);
+  }
+  return result;
+}
+
+// Of a name of ordinary length in which each backslash stands behind a word or what another quotes, and quotes all that
+// no word has: what lies between is copied in runs.
+BackslashRules::Unquoted BackslashRules::unquoteEach(Text &out, Bytes name) const {
+  constexpr std::size_t longest = 64;
+  if (!takesWords || name.size() > longest)
+    return {false, 0};
+  std::uint64_t backslashes = 0;
+  std::uint64_t others = 0;
+  forEachBlock(name, [&](Block block, std::size_t at) {
+    backslashes |= std::uint64_t{bitsOf(isChar(block, '\\'))} << at;
+    others |= std::uint64_t{allBits & ~bitsOf(isWordChar(block))} << at;
+  });
+  others &= ~std::uint64_t{0} >> (longest - name.size());
+  const std::uint64_t quoted = backslashes << 1;
+  if (((backslashes & quoted) | (others & ~(backslashes | quoted)) | backslashes >> (name.size() - 1)) != 0)
+    return {false, 0};
+
+  Unquoted result = {true, 0};
   char *to = out.bytes;
-  std::size_t copied = 0; // up to here
-  std::size_t next = 0;   // what stands before is known
-  unsigned seen = 0;
+  std::size_t start = 0;
   const auto copyUpTo = [&](std::size_t end) {
-    copyRun(to, name.data(), name.size(), copied, end);
-    to += end - copied;
+    copyRun(to, name.data(), name.size(), start, end);
+    to += end - start;
+    start = end + 1;
   };
-  for (std::size_t i = 0; i < name.size(); i += blockBytes)
-    for (std::uint32_t bits = takesWords ? othersFrom(name, i) : bytesFrom(name, i); bits != 0; bits &= bits - 1) {
-      const std::size_t at = i + static_cast<std::size_t>(__builtin_ctz(bits));
-      if (at < next)
-        continue;
-      if (!quotes(name, at)) {
-        seen |= roleOf(name[at]);
-        continue;
-      }
-      copyUpTo(at);
-      copied = at + 1;
-      next = at + 2;
-      seen |= roleOf(name[copied]) & ~unsigned{notPlainRole};
-    }
+  for (; backslashes != 0; backslashes &= backslashes - 1) {
+    copyUpTo(static_cast<std::size_t>(__builtin_ctzll(backslashes)));
+    result.isLegal = result.isLegal & escapable.has(name[start]);
+    result.roles |= roles[static_cast<unsigned char>(name[start])];
+  }
   copyUpTo(name.size());
   out.size = static_cast<std::size_t>(to - out.bytes);
-  return {(seen & notPlainRole) == 0, seen};
+  return result;
 }
 
 Ident BackslashRules::identOfUnquoted(const Name &name, unsigned rolesSeen, Text &work) const {

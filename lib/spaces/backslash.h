@@ -65,6 +65,7 @@ private:
 
   // Copies a name to out without the backslashes that only quote.
   Unquoted unquote(Text &out, Bytes name) const;
+  Unquoted unquoteEach(Text &out, Bytes name) const;
 
   // The Ident of a name of which work holds the unquoted copy.
   Ident identOfUnquoted(const Name &name, unsigned rolesSeen, Text &work) const;

@@ -40,7 +40,7 @@ struct RedefinableRules {
   static constexpr auto makeRules = rulesUnder;
 
   // Calls ask with the rules under a handle, null standing for the current one.
-  template <typename Ask> auto under(zelHandle handle, Ask ask) const {
+  template <typename Ask> [[gnu::always_inline]] auto under(zelHandle handle, const Ask &ask) const {
     if (handle == nullptr)
       handle = handleInForce(namespaceHandle);
     if (handle == nullptr)
