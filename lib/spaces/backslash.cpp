@@ -28,7 +28,7 @@ zelRefusal BackslashRules::explain(const Name &name) const {
   });
 }
 
-Spelled BackslashRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+[[gnu::flatten]] Spelled BackslashRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const bool folds = foldsCase(ident, setting) && ident.body.has(traitUpper);
   if (takesWords)
     return spell(work, ident.body, escape, spelling, folds);
@@ -36,7 +36,7 @@ Spelled BackslashRules::write(const Ident &ident, const Setting &setting, Text &
   return work.view();
 }
 
-Ident BackslashRules::read(const Name &name, const Setting &, Text &work) const {
+[[gnu::flatten]] Ident BackslashRules::read(const Name &name, const Setting &, Text &work) const {
   if (!isNameLength(name))
     return refuseIdent();
   if (isWord(name))
@@ -84,7 +84,7 @@ BackslashRules::Unquoted BackslashRules::unquoteEach(Text &out, Bytes name) cons
   if (((backslashes & quoted) | (others & ~(backslashes | quoted)) | backslashes >> (name.size() - 1)) != 0)
     return {false, 0};
 
-  Unquoted result = {true, 0};
+  unsigned seen = 0;
   char *to = out.bytes;
   std::size_t start = 0;
   const auto copyUpTo = [&](std::size_t end) {
@@ -94,12 +94,11 @@ BackslashRules::Unquoted BackslashRules::unquoteEach(Text &out, Bytes name) cons
   };
   for (; backslashes != 0; backslashes &= backslashes - 1) {
     copyUpTo(static_cast<std::size_t>(__builtin_ctzll(backslashes)));
-    result.isLegal = result.isLegal & escapable.has(name[start]);
-    result.roles |= roles[static_cast<unsigned char>(name[start])];
+    seen |= roles[static_cast<unsigned char>(name[start])];
   }
   copyUpTo(name.size());
   out.size = static_cast<std::size_t>(to - out.bytes);
-  return result;
+  return {(seen & notEscapableRole) == 0, seen};
 }
 
 Ident BackslashRules::identOfUnquoted(const Name &name, unsigned rolesSeen, Text &work) const {

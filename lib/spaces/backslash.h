@@ -17,7 +17,13 @@ struct BackslashRules {
   bool quotesWords; // whether a backslash may stand before one of these
 
   // What each byte is to the reader.
-  enum Role : std::uint8_t { backslashRole = 1, notPlainRole = 2, markRole = 4, notGraphicRole = 8 };
+  enum Role : std::uint8_t {
+    backslashRole = 1,
+    notPlainRole = 2,
+    markRole = 4,
+    notGraphicRole = 8,
+    notEscapableRole = 16
+  };
   std::uint8_t roles[256] = {};
 
   // quoted: the bytes that the writer puts a backslash before, also when it writes them as an escape.
@@ -31,9 +37,9 @@ struct BackslashRules {
         takesWords = takesWords && !quoted.has(c) && plain.has(c);
         quotesWords = quotesWords || escapable.has(c);
       }
-      roles[i] =
-          static_cast<std::uint8_t>((c == '\\' ? backslashRole : 0) | (plain.has(c) ? 0 : notPlainRole) |
-                                    (c == '#' || c == '%' ? markRole : 0) | (graphic.has(c) ? 0 : notGraphicRole));
+      roles[i] = static_cast<std::uint8_t>(
+          (c == '\\' ? backslashRole : 0) | (plain.has(c) ? 0 : notPlainRole) | (c == '#' || c == '%' ? markRole : 0) |
+          (graphic.has(c) ? 0 : notGraphicRole) | (escapable.has(c) ? 0 : notEscapableRole));
     }
   }
 

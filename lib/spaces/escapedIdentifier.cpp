@@ -36,7 +36,7 @@ zelRefusal EscapedIdentifierRules::explain(const Name &name) const {
   });
 }
 
-Spelled EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+[[gnu::flatten]] Spelled EscapedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const bool folds = foldsCase(ident, setting) && ident.body.has(traitUpper);
   if (isNormal(ident.body)) {
     if (!folds && !setting.isReserved(ident.body))
@@ -53,7 +53,7 @@ Spelled EscapedIdentifierRules::write(const Ident &ident, const Setting &setting
   return {spell(work, ident.body, escape, spelling, folds), '\\', ' '};
 }
 
-Ident EscapedIdentifierRules::read(const Name &name, const Setting &, Text &work) const {
+[[gnu::flatten]] Ident EscapedIdentifierRules::read(const Name &name, const Setting &, Text &work) const {
   if (!isNameLength(name))
     return refuseIdent();
   // A normal name is always case-sensitive, an escaped one only when it holds capitals.

@@ -62,7 +62,7 @@ zelRefusal ExtendedIdentifierRules::explain(const Name &name) const {
   });
 }
 
-Spelled ExtendedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
+[[gnu::flatten]] Spelled ExtendedIdentifierRules::write(const Ident &ident, const Setting &setting, Text &work) const {
   const std::int32_t state = mapStateOf(setting);
   const bool isSensitive = ident.isCaseSensitive();
   const Name &body = ident.body;
@@ -80,7 +80,7 @@ Spelled ExtendedIdentifierRules::write(const Ident &ident, const Setting &settin
   return writeExtended(work, body, escape, spelling, !isSensitive);
 }
 
-Ident ExtendedIdentifierRules::read(const Name &name, const Setting &setting, Text &work) const {
+[[gnu::flatten]] Ident ExtendedIdentifierRules::read(const Name &name, const Setting &setting, Text &work) const {
   if (!isNameLength(name))
     return refuseIdent();
   const std::int32_t state = mapStateOf(setting);
