@@ -122,36 +122,49 @@ inline void encodeMark(Text &out, Bytes body, std::size_t at, const HexEscape &e
     out.put(escape.mark);
 }
 
-// Writes body by a spelling, in lower case when it folds.
-template <bool folds> void encodeAs(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling) {
+// Writes body by a spelling, in lower case when it folds. hasMarks: whether the mark of the escape may be in it.
+template <bool folds, bool hasMarks>
+void encodeAs(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling) {
   char *to = out.bytes + out.size;
-  for (std::size_t i = 0; i < body.size(); ++i) {
+  const auto putAt = [&](std::size_t i) {
     // A byte that is lowered is never the mark.
     const std::uint64_t entry = spelling.entries[static_cast<unsigned char>(folds ? toLower(body[i]) : body[i])];
     const auto text = static_cast<std::uint32_t>(entry);
     std::memcpy(to, &text, sizeof text);
     to += entry >> 32;
-    if (entry == 0) [[unlikely]] {
+    if (hasMarks && entry == 0) [[unlikely]] {
       out.size = static_cast<std::size_t>(to - out.bytes);
       encodeMark(out, body, i, escape, spelling);
       to = out.bytes + out.size;
     }
+  };
+  std::size_t i = 0;
+  for (; i + 4 <= body.size(); i += 4) {
+    putAt(i);
+    putAt(i + 1);
+    putAt(i + 2);
+    putAt(i + 3);
   }
+  for (; i < body.size(); ++i)
+    putAt(i);
   out.size = static_cast<std::size_t>(to - out.bytes);
 }
 
-inline void encode(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds) {
+inline void encode(Text &out, Bytes body, const HexEscape &escape, const Spelling &spelling, bool folds,
+                   bool hasMarks = true) {
   if (folds)
-    encodeAs<true>(out, body, escape, spelling);
+    encodeAs<true, true>(out, body, escape, spelling);
+  else if (hasMarks)
+    encodeAs<false, true>(out, body, escape, spelling);
   else
-    encodeAs<false>(out, body, escape, spelling);
+    encodeAs<false, false>(out, body, escape, spelling);
 }
 
 // The bytes that a writer makes of a body, behind what work holds already, in a space that takes words as they are: the
 // body itself if it can be.
 inline Bytes spell(Text &work, const Name &body, const HexEscape &escape, const Spelling &spelling, bool folds) {
   if (!spelling.keeps(body))
-    encode(work, body, escape, spelling, folds);
+    encode(work, body, escape, spelling, folds, body.has(traitMark));
   else if (folds && body.has(traitUpper))
     copyLowered(work, body);
   else if (work.size == 0)
