@@ -93,6 +93,33 @@ inline void moveBytes(char *to, const char *from, std::size_t size) {
   }
 }
 
+// As moveBytes, the bytes changed on the way, by blocks of which only a part may count.
+template <typename Change> void moveChanged(char *to, const char *from, std::size_t size, Change change) {
+  if (size >= blockBytes && size <= 4 * blockBytes) {
+    const Block first = change(loadBlock(from));
+    const Block last = change(loadBlock(from + size - blockBytes));
+    if (size > 2 * blockBytes) {
+      const Block second = change(loadBlock(from + blockBytes));
+      const Block third = change(loadBlock(from + size - 2 * blockBytes));
+      storeBlock(to + blockBytes, second);
+      storeBlock(to + size - 2 * blockBytes, third);
+    }
+    storeBlock(to, first);
+    storeBlock(to + size - blockBytes, last);
+    return;
+  }
+  std::size_t i = 0;
+  if (size > blockBytes) {
+    std::memmove(to, from, size);
+    from = to;
+    for (; i + blockBytes <= size; i += blockBytes)
+      storeBlock(to + i, change(loadBlock(to + i)));
+  }
+  char rest[blockBytes];
+  storeBlock(rest, change(loadPart(from + i, size - i)));
+  std::memcpy(to + i, rest, size - i);
+}
+
 // The eight bytes of a text of at least so many from a place in it on; fewer at its end, behind them zeros.
 inline std::uint64_t wordAt(const char *bytes, std::size_t size, std::size_t at) {
   const std::size_t last = size - sizeof(std::uint64_t);

@@ -203,6 +203,15 @@ template <typename LookAtBlock> void forEachBlock(Bytes s, LookAtBlock look) {
   look(loadBlock(s.data() + last), last);
 }
 
+// A bit for each of the sixteen bytes of s from i on that no word has; none behind the end.
+inline std::uint32_t othersFrom(Bytes s, std::size_t i) {
+  if (s.size() < blockBytes)
+    return ~bitsOf(isWordChar(loadPart(s.data(), s.size()))) & ((1U << s.size()) - 1);
+  const std::size_t last = s.size() - blockBytes;
+  const std::size_t start = i < last ? i : last;
+  return (~bitsOf(isWordChar(loadBlock(s.data() + start))) & allBits) >> (i - start);
+}
+
 // What a writer made of an Ident: text, which lies in the Ident or in the writer's Text, between two marks where there
 // are some. Without data, the Ident was refused.
 struct Spelled {

@@ -1,5 +1,6 @@
 #include "map/levelPath.h"
 
+#include "map/plainPath.h"
 #include "path/zelPathParse.h"
 
 #include <algorithm>
@@ -21,22 +22,6 @@ bool beginsName(const Side &side, char c) {
   if (grammar == parseVerilog || grammar == parseVHDL)
     return inWords.has(c);
   return grammar == parseSpice && side.ownNames == nullptr ? inSpice.has(c) : graphic.has(c);
-}
-
-// Whether the word stands as it is in the other language; its capitals and "__" are asked elsewhere.
-bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t end) {
-  const char *const word = path.data() + start;
-  const std::size_t length = end - start;
-  std::uint64_t head = 0;
-  if (start + sizeof head <= path.size())
-    head = loadWord(word) & (length < sizeof head ? (std::uint64_t{1} << (8 * length)) - 1 : ~std::uint64_t{0});
-  else
-    head = headWord(word, length);
-  const auto isBarred = [&route](Trait trait) { return (route.unless & trait) != 0; };
-  if ((isBarred(traitDigitFirst) && digit.has(word[0])) || (isBarred(traitUnderscoreFirst) && word[0] == '_') ||
-      (isBarred(traitUnderscoreLast) && word[length - 1] == '_'))
-    return false;
-  return !hasPrefix(head) && length <= maxName && !route.isKeyword(Name({word, length}, Look{0, head}));
 }
 
 } // namespace
@@ -236,6 +221,12 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
   if ((route.printFlags & wholePathFlags) != 0)
     return refuseAt(0, ZEL_REASON_NOT_WRITABLE);
 
+  refusal = {};
+  PlainPath plain;
+  if (plain.read(path, route)) {
+    plain.copyTo(begin());
+    return {begin(), plain.size()};
+  }
   size = path.size();
   std::memcpy(begin(), path.data(), size);
   begin()[size] = '\0';
@@ -250,14 +241,6 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
   bool sawPin = false;
   for (;;) {
     std::size_t end = wordEnd(start);
-    // Nothing but a mark is to be exchanged behind most levels.
-    while (areWordsPlain && !hasElements && !sawPin && end != start && end != size &&
-           begin()[end] == from.marks.divider && from.ownNames == nullptr && takesWord(route, path, start, end)) {
-      begin()[end] = to.marks.divider;
-      isDivided = true;
-      start = end + 1;
-      end = wordEnd(start);
-    }
     const bool isWord = end != start && endsName(from, begin()[end]);
     bool isPlain = areWordsPlain && isWord && takesWord(route, path, start, end);
     if (!isWord || from.ownNames != nullptr) {

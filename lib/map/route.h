@@ -39,6 +39,8 @@ struct Route {
   std::int32_t kind = ZEL_KIND_NET;
   std::int32_t levels = ZEL_LEVELS_ALL;
   Traits unless = 0;
+  bool takesPlainPaths = false;       // see PlainPath
+  bool takesRanges = false;           // in a plain path
   const KeywordTest *keywordTests[5]; // of tested, from and to, and the words reserved besides; null-terminated
   std::size_t longestKeyword = 0;
 

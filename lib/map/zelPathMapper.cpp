@@ -1,6 +1,7 @@
 // The mapping of paths between languages.
 #include "map/itemPath.h"
 #include "map/levelPath.h"
+#include "map/plainPath.h"
 
 using namespace zeli;
 
@@ -18,16 +19,29 @@ zelHandle handleOf(const char *spaceName) {
   return handle;
 }
 
+char *makePath(const PlainPath &path, void *context) {
+  auto *result = static_cast<char *>(allocate(path.size() + 1, nullptr, context));
+  if (result == nullptr)
+    return nullptr;
+  path.copyTo(result);
+  result[path.size()] = '\0';
+  return result;
+}
+
 char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flags, zelAllocFunc alloc, void *context) {
   if (from == nullptr || to == nullptr)
     return nullptr;
   if (text != nullptr) {
     Route route;
     LevelPath levels;
-    if (routeOf(from, to, flags, route))
-      if (const Bytes result = levels.map({text, strnlen(text, LevelPath::longest + 1)}, route);
-          result.data() != nullptr)
+    if (routeOf(from, to, flags, route)) {
+      const Bytes path(text, strnlen(text, LevelPath::longest + 1));
+      // An allocator of the caller's may write where the path lies.
+      if (PlainPath plain; alloc == nullptr && plain.read(path, route))
+        return makePath(plain, context);
+      if (const Bytes result = levels.map(path, route); result.data() != nullptr)
         return makeString(result, alloc, context);
+    }
   }
   const PathLanguage &source = *from->language;
   const PathLanguage &target = printingLanguage(*to->language);
