@@ -61,6 +61,7 @@ enum Trait : Traits {
   traitDigitFirst = 8,
   traitUnderscoreFirst = 16,
   traitUnderscoreLast = 32,
+  traitPrefixLetter = 512, // begins as the prefixes that some spaces use
 
   traitMark = 64, // '#' or '%'
   traitBackslash = 128,
@@ -82,6 +83,7 @@ struct FirstTraits {
 
   constexpr FirstTraits() {
     of[static_cast<unsigned char>('_')] = traitUnderscoreFirst;
+    of[static_cast<unsigned char>('E')] = of[static_cast<unsigned char>('K')] = traitPrefixLetter;
     for (int c = '0'; c <= '9'; ++c)
       of[c] = traitDigitFirst;
   }
@@ -203,7 +205,7 @@ template <typename LookAtBlock> void forEachBlock(Bytes s, LookAtBlock look) {
   look(loadBlock(s.data() + last), last);
 }
 
-// A bit for each of the sixteen bytes of s from i on that no word has; none behind the end.
+// A bit for each of the sixteen bytes of s from i on that no word has; none behind the end. s is not empty.
 inline std::uint32_t othersFrom(Bytes s, std::size_t i) {
   if (s.size() < blockBytes)
     return ~bitsOf(isWordChar(loadPart(s.data(), s.size()))) & ((1U << s.size()) - 1);

@@ -2,35 +2,51 @@
 
 namespace zeli {
 
-bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t end) {
-  if (start == end)
-    return false;
-  const char *const word = path.data() + start;
-  const std::size_t length = end - start;
-  std::uint64_t head = 0;
-  if (start + sizeof head <= path.size())
-    head = loadWord(word) & (length < sizeof head ? (std::uint64_t{1} << (8 * length)) - 1 : ~std::uint64_t{0});
-  else
-    head = headWord(word, length);
-  const Traits traits = firstTraits.of[static_cast<unsigned char>(*word)] |
-                        (word[length - 1] == '_' ? Traits{traitUnderscoreLast} : Traits{});
-  return (traits & route.unless) == 0 && !hasPrefix(head) && !route.isKeyword(Name({word, length}, Look{0, head}));
-}
-
 namespace {
 
-// Whether the digits from start up to end are printed as they stand.
+// The first eight of the bytes from start up to end, the first in the lowest place; zero where there are none.
+std::uint64_t headOf(Bytes path, std::size_t start, std::size_t end) {
+  constexpr std::size_t headBytes = sizeof(std::uint64_t);
+  if (path.size() < headBytes)
+    return headWord(path.data() + start, end - start);
+  const std::uint64_t head = wordAt(path.data(), path.size(), start);
+  return end - start < headBytes ? head & ~(~std::uint64_t{0} << (8 * (end - start))) : head;
+}
+
+// Whether the word characters from start up to end are a number as it is printed, and in range.
 bool takesNumber(Bytes path, std::size_t start, std::size_t end) {
   constexpr std::size_t mostDigits = 6;
   static_assert(ZEL_MAX_NUMBER >= 999'999);
-  if (start == end || end - start > mostDigits || (path[start] == '0' && end - start > 1))
+  const std::size_t length = end - start;
+  if (length - 1 >= mostDigits)
     return false;
-  return allOf(from(upTo(path, end), start), digit);
+  // A digit is 0x3 before a half byte to which six can be added.
+  constexpr std::uint64_t each = 0x0101010101010101;
+  const std::uint64_t word = headOf(path, start, end) | 0x30 * each << (8 * length);
+  const std::uint64_t high = word & (word + 6 * each) & 0xF0 * each;
+  return high == 0x30 * each && (path[start] != '0' || length == 1);
+}
+
+// A bit for each of the 64 bytes from i on that no word has.
+[[gnu::noinline]] std::uint64_t marksFrom(Bytes path, std::size_t i) {
+  std::uint64_t bits = 0;
+  for (std::size_t block = 0; block < 64 && i + block < path.size(); block += blockBytes)
+    bits |= std::uint64_t{othersFrom(path, i + block)} << block;
+  return bits;
 }
 
 } // namespace
 
-bool PlainPath::read(Bytes path, const Route &route) {
+bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t end) {
+  if (start == end)
+    return false;
+  const std::uint64_t head = headOf(path, start, end);
+  const Traits traits = firstTraits.of[head & 0xFF] | (path[end - 1] == '_' ? Traits{traitUnderscoreLast} : Traits{});
+  return (traits & route.unless) == 0 && !hasPrefix(traits, head) &&
+         !route.isKeyword(Bytes(path.data() + start, end - start), head);
+}
+
+[[gnu::flatten]] bool PlainPath::read(Bytes path, const Route &route) {
   constexpr Traits traitsOfAll = traitUpper | traitTwoUnderscores;
   if (!route.takesPlainPaths || path.empty() || path.size() > maxName ||
       ((route.unless & traitsOfAll) != 0 && (lookAt(path).traits & route.unless & traitsOfAll) != 0))
@@ -41,9 +57,9 @@ bool PlainPath::read(Bytes path, const Route &route) {
   bool isDivided = false;
   enum { inName, inFirst, inLast, behindBus } state = inName;
   std::size_t start = first; // of the word or number
-  for (std::size_t i = 0; i < path.size(); i += blockBytes)
-    for (std::uint32_t bits = othersFrom(path, i); bits != 0; bits &= bits - 1) {
-      const std::size_t at = i + static_cast<std::size_t>(__builtin_ctz(bits));
+  for (std::size_t i = 0; i < path.size(); i += 64)
+    for (std::uint64_t bits = marksFrom(path, i); bits != 0; bits &= bits - 1) {
+      const std::size_t at = i + static_cast<std::size_t>(__builtin_ctzll(bits));
       if (at < first)
         continue;
       const char mark = path[at];

@@ -61,20 +61,21 @@ bool zeli::routeOf(zelHandle from, zelHandle to, std::uint32_t printFlags, Route
     return false;
   const PathLanguage &source = *from->language;
   const PathLanguage &target = printingLanguage(*to->language);
-  const zelHandle fromHandle = separatingHandle(source, from);
-  const zelHandle toHandle = separatingHandle(target, to);
-  route.from = {.language = &source,
-                .names = source.names.read,
-                .setting = {.handle = fromHandle},
-                .marks = marksOf(fromHandle, source.reader.marks)};
-  route.to = {.language = &target,
-              .names = target.writer.names,
-              .setting = {.handle = toHandle},
-              .marks = marksOf(toHandle, target.writer.marks)};
+  // Field by field: to put the sides together elsewhere first would cost as much as a short path.
+  const auto set = [](Side &side, const PathLanguage &language, const Operations *names, zelHandle handle,
+                      const Punctuation &fixed) {
+    side.language = &language;
+    side.names = names;
+    side.setting.handle = handle;
+    side.marks = marksOf(handle, fixed);
+    return isSettled(names) && isPlainHandle(handle, *names, side.marks);
+  };
+  const bool isSet = set(route.from, source, source.names.read, separatingHandle(source, from), source.reader.marks) &&
+                     set(route.to, target, target.writer.names, separatingHandle(target, to), target.writer.marks);
   route.tested = source.names.tested;
   route.printFlags = printFlags;
+  if (!isSet || !isSettled(route.tested))
+    return false;
   route.join();
-  return isPlainHandle(fromHandle, *route.from.names, route.from.marks) &&
-         isPlainHandle(toHandle, *route.to.names, route.to.marks) && isSettled(route.tested) &&
-         isSettled(route.from.names) && isSettled(route.to.names);
+  return true;
 }

@@ -50,11 +50,11 @@ struct Route {
   // Whether a word of these traits stands as it is, unless it is a keyword. Only in the default mapping state.
   bool takesWords() const { return from.takesWords && to.takesWords; }
 
-  bool isKeyword(const Name &word) const { return word.size() <= longestKeyword && isShortKeyword(word); }
-
-  bool isShortKeyword(const Name &word) const {
+  bool isKeyword(Bytes word, std::uint64_t head) const {
+    if (word.size() > longestKeyword)
+      return false;
     for (const auto *test = keywordTests; *test != nullptr; ++test)
-      if ((**test)(word))
+      if ((*test)->mayHave(head) && (*test)->has(Name(word, Look{0, head})))
         return true;
     return false;
   }

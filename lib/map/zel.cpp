@@ -7,9 +7,10 @@ namespace {
 
 // Whether a word is a name of both spaces as it stands. In the default mapping state only, which it must not determine.
 inline bool isPlain(const Name &name, const Operations &from, const Operations &to) {
-  return !name.has(traitOther | barredBetween(from.plainWords, to.plainWords)) && !hasPrefix(name.head()) &&
-         zelMapState.load(std::memory_order_relaxed) == ZEL_MAP_DEFAULT && !from.plainWords.isKeyword(name) &&
-         !to.plainWords.isKeyword(name) && handleInForce(from) == nullptr && handleInForce(to) == nullptr;
+  return !name.has(traitOther | barredBetween(from.plainWords, to.plainWords)) &&
+         !hasPrefix(name.look.traits, name.head()) && zelMapState.load(std::memory_order_relaxed) == ZEL_MAP_DEFAULT &&
+         !from.plainWords.isKeyword(name) && !to.plainWords.isKeyword(name) && handleInForce(from) == nullptr &&
+         handleInForce(to) == nullptr;
 }
 
 // By way of the Ident.

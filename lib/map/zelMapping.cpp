@@ -18,7 +18,8 @@ Bytes refused(zelRefusal &refusal, std::int32_t reason, std::size_t position) {
 bool isPlainWord(const Route &route, const Name &text) {
   const bool isElement = (route.from.element != '\0' || route.to.element != '\0') && route.isElement(true);
   return !isElement && (route.printFlags & LevelPath::wholePathFlags) == 0 && route.takesWords() && text.isWord() &&
-         isNameLength(text) && !text.has(route.unless) && !hasPrefix(text.head()) && !route.isKeyword(text);
+         isNameLength(text) && !text.has(route.unless) && !hasPrefix(text.look.traits, text.head()) &&
+         !route.isKeyword(text, text.head());
 }
 
 // One name, with its element letter where it has one.

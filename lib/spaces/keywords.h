@@ -3,7 +3,7 @@
 #ifndef ZEL_SPACES_KEYWORDS_H
 #define ZEL_SPACES_KEYWORDS_H
 
-#include "spaces/space.h"
+#include "spaces/keywordTest.h"
 
 namespace zeli {
 
@@ -38,15 +38,6 @@ struct Keywords {
   bool verify() const;
 };
 
-// The first eight bytes of a word, the first in the lowest place, with its capitals lowered.
-constexpr std::uint64_t lowered(std::uint64_t head) {
-  constexpr std::uint64_t each = 0x0101010101010101;
-  const std::uint64_t low = head & 0x7F * each;
-  const std::uint64_t isFromA = low + (0x80 - 'A') * each;
-  const std::uint64_t isPastZ = low + (0x7F - 'Z') * each;
-  return head | ((isFromA & ~isPastZ & ~head & 0x80 * each) >> 2);
-}
-
 // An index of count words at the most, made when the program is compiled: the first eight bytes of a word are hashed to
 // slots of which most are empty.
 template <std::size_t count> class KeywordTable {
@@ -75,6 +66,11 @@ public:
   // In any case.
   bool hasFolded(const Name &word) const { return find<true>(word, lowered(word.head())); }
 
+  // The test for words of this table, all or some.
+  constexpr KeywordTest test(bool (*asked)(const Name &word)) const {
+    return {asked, longest, nullptr, slots, 64 - slotBits};
+  }
+
   std::size_t longest = 0; // bytes
 
 private:
@@ -95,24 +91,20 @@ private:
   std::uint16_t slots[slotCount] = {}; // 0 when empty, otherwise an entry, counted from 1
   Entry entries[count + 1];
 
-  static constexpr std::size_t slotOf(std::uint64_t head) {
-    return static_cast<std::size_t>(head * 0x9E3779B97F4A7C15U >> (64 - slotBits));
-  }
-
   constexpr void enter(Bytes word, std::uint16_t entry) {
     std::uint64_t head = 0;
     for (std::size_t at = 0; at < headBytes && at < word.size(); ++at)
       head |= std::uint64_t{static_cast<unsigned char>(word[at])} << (8 * at);
     longest = word.size() > longest ? word.size() : longest;
     entries[entry] = {head, word.size() > headBytes ? word.data() + headBytes : ""};
-    std::size_t slot = slotOf(head);
+    std::size_t slot = slotOf(head, 64 - slotBits);
     while (slots[slot] != 0)
       slot = (slot + 1) % slotCount;
     slots[slot] = entry;
   }
 
   template <bool folds> bool find(Bytes word, std::uint64_t head) const {
-    for (std::size_t slot = slotOf(head); slots[slot] != 0; slot = (slot + 1) % slotCount)
+    for (std::size_t slot = slotOf(head, 64 - slotBits); slots[slot] != 0; slot = (slot + 1) % slotCount)
       if (const Entry &entry = entries[slots[slot]]; entry.head == head && hasTail<folds>(word, entry.tail))
         return true;
     return false;
@@ -128,9 +120,9 @@ private:
 
 // The tests by a table: of words as stored, and in any case.
 template <const auto &table>
-constexpr KeywordTest keywordsOf = {[](const Name &word) { return table.has(word); }, table.longest};
+constexpr KeywordTest keywordsOf = table.test([](const Name &word) { return table.has(word); });
 template <const auto &table>
-constexpr KeywordTest foldedKeywordsOf = {[](const Name &word) { return table.hasFolded(word); }, table.longest};
+constexpr KeywordTest foldedKeywordsOf = table.test([](const Name &word) { return table.hasFolded(word); });
 
 } // namespace zeli
 

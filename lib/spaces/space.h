@@ -2,30 +2,16 @@
 #ifndef ZEL_SPACES_SPACE_H
 #define ZEL_SPACES_SPACE_H
 
-#include "core/zelpvt.h"
+#include "spaces/keywordTest.h"
 
 namespace zeli {
 
-// Whether a word begins with a prefix that some space uses, by its head.
-constexpr bool hasPrefix(std::uint64_t head) {
+// Whether a word of these traits and this head begins with a prefix that some space uses.
+constexpr bool hasPrefix(Traits traits, std::uint64_t head) {
   constexpr std::uint64_t forceHead = 0x5F435345;           // "ESC_"
   constexpr std::uint64_t keywordHead = 0x5F44524F5759454B; // "KEYWORD_"
-  return (head & 0xFFFFFFFF) == forceHead || head == keywordHead;
+  return (traits & traitPrefixLetter) != 0 && ((head & 0xFFFFFFFF) == forceHead || head == keywordHead);
 }
-
-// The reserved words of a space.
-struct KeywordTest {
-  bool (*has)(const Name &word) = nullptr;
-  std::size_t longest = 0; // bytes; most names are longer
-  // Zero until the first test determines which words are reserved; null where that is constant.
-  const std::atomic<std::int32_t> *determined = nullptr;
-
-  bool isSettled() const { return determined == nullptr || determined->load(std::memory_order_relaxed) != 0; }
-
-  bool operator()(const Name &word) const {
-    return (word.size() <= longest || !isSettled()) && has != nullptr && has(word);
-  }
-};
 
 // What a conversion depends on beside the name.
 struct Setting {

@@ -82,7 +82,11 @@ bool isInMode(const Name &word) {
   return keywordTable.hasFolded(word) && !(isVHDL87 && isIn93(word));
 }
 
-constexpr KeywordTest isKeyword = {isInMode, keywordTable.longest, &environmentMode};
+constexpr KeywordTest isKeyword = [] {
+  KeywordTest test = keywordTable.test(isInMode);
+  test.determined = &environmentMode;
+  return test;
+}();
 constexpr ExtendedIdentifierRules rules = vhdlFamily(isKeyword);
 
 // Without a mode: the words of 1993, whatever the process asks for.
