@@ -40,7 +40,7 @@ const char *numberBefore(const char *text, const char *place) {
   std::int64_t value = 0;
   for (const char *at = start; at != place && value <= ZEL_MAX_NUMBER; ++at)
     value = value * 10 + (*at - '0');
-  constexpr ByteSet opens = chars("[(<{:, ");
+  static constexpr ByteSet opens = chars("[(<{:, ");
   if (value <= ZEL_MAX_NUMBER || start == text)
     return nullptr;
   if (sign.has(start[-1]))

@@ -16,8 +16,8 @@ bool endsName(const Side &side, char c) {
 
 // What a name begins with in the grammar of a side.
 bool beginsName(const Side &side, char c) {
-  constexpr ByteSet inWords = letter | chars("_\\");
-  constexpr ByteSet inSpice = graphic - chars("[]");
+  static constexpr ByteSet inWords = letter | chars("_\\");
+  static constexpr ByteSet inSpice = graphic - chars("[]");
   Grammar *const grammar = side.language->reader.grammar;
   if (grammar == parseVerilog || grammar == parseVHDL)
     return inWords.has(c);

@@ -82,7 +82,7 @@ Separators mergedSeparators(const Separators &defaults, const zelMappingSeparato
 
 // Letters, signs and the marks of escapes, of which LEF and DEF have another, separate nothing.
 bool areSeparators(const Separators &separators, bool hasPins, bool isLayout) {
-  constexpr ByteSet inNumbersAndNames = wordChar | beyondAscii | white | chars("\\+-#");
+  static constexpr ByteSet inNumbersAndNames = wordChar | beyondAscii | white | chars("\\+-#");
   const ByteSet useless = inNumbersAndNames | chars(isLayout ? "%" : "");
   const auto [pin, divider, open, close] = separators;
   const bool areMarks = !useless.has(divider) && !useless.has(open) && !useless.has(close) && divider != '\0' &&

@@ -105,7 +105,7 @@ std::size_t plainWordSize(Bytes rest) {
 
 // Whether what follows a word might belong to it.
 bool isOpen(Lexis lexis, Bytes word) {
-  constexpr ByteSet first = wordChar | chars("*/\\");
+  static constexpr ByteSet first = wordChar | chars("*/\\");
   return lexis == Lexis::layout || first.has(word.front());
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 // Marks that stand for nothing else in any grammar.
 bool areMarks(const Punctuation &marks) {
-  constexpr ByteSet others = wordChar | chars("+-:\\");
+  static constexpr ByteSet others = wordChar | chars("+-:\\");
   const auto [divider, busOpen, busClose] = marks;
   return !others.has(divider) && !others.has(busOpen) && !others.has(busClose) && divider != busOpen &&
          divider != busClose && busOpen != busClose && divider != '\0';

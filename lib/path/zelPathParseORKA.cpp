@@ -118,7 +118,7 @@ const char *parseORKAIndex(zelPath path, const char *text) {
 
 // A number is one only in a repeat prefix, and so is the star in front of it; everywhere else they belong to names.
 char classOf(State state, char c) {
-  constexpr ByteSet nameStart = graphic - chars("(),/<>");
+  static constexpr ByteSet nameStart = graphic - chars("(),/<>");
   if (state == State::star && digit.has(c))
     return aNumber;
   return nameStart.has(c) && !(state == State::less && c == '*') ? aName : c;

@@ -8,7 +8,7 @@ namespace {
 enum class State { start, name, dot };
 
 char classOf(char c) {
-  constexpr ByteSet nameStart = graphic - chars(".[]");
+  static constexpr ByteSet nameStart = graphic - chars(".[]");
   return nameStart.has(c) ? aName : c;
 }
 

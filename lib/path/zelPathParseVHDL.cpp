@@ -109,7 +109,7 @@ const char *skipDirection(const char *text) {
 }
 
 char classOf(char c) {
-  constexpr ByteSet nameStart = letter | chars("\\_");
+  static constexpr ByteSet nameStart = letter | chars("\\_");
   return nameStart.has(c) ? aName : digit.has(c) ? aNumber : c;
 }
 

@@ -9,8 +9,8 @@ namespace {
 enum class State { start, name, comma, dot, brace, bracket, number, colon, second };
 
 char classOf(char c) {
-  constexpr ByteSet nameStart = letter | chars("\\_");
-  constexpr ByteSet numberStart = digit | sign;
+  static constexpr ByteSet nameStart = letter | chars("\\_");
+  static constexpr ByteSet numberStart = digit | sign;
   return nameStart.has(c) ? aName : numberStart.has(c) ? aNumber : c;
 }
 

@@ -21,7 +21,7 @@ const char *skipEscaped(const char *text) {
 
 // An extended identifier: up to the closing backslash, doubled ones being inside.
 const char *skipExtended(const char *text) {
-  constexpr ByteSet inside = (graphic | chars(" ")) - chars("\\");
+  static constexpr ByteSet inside = (graphic | chars(" ")) - chars("\\");
   for (++text;;) {
     text = skip(text, inside);
     if (*text != '\\')
@@ -67,22 +67,22 @@ bool isEscaped(const char *start, const char *text) {
 } // namespace
 
 const char *zeliScanVlog(const char *text, zelHandle) {
-  constexpr ByteSet plain = letter | digit | chars("_$");
+  static constexpr ByteSet plain = letter | digit | chars("_$");
   return *text == '\\' ? skipEscaped(text) : skip(text, plain);
 }
 
 const char *zeliScanVHDL(const char *text, zelHandle) {
-  constexpr ByteSet plain = letter | digit | chars("_");
+  static constexpr ByteSet plain = letter | digit | chars("_");
   return *text == '\\' ? skipExtended(text) : skip(text, plain);
 }
 
 const char *zeliScanKirraHDL(const char *text, zelHandle) {
-  constexpr ByteSet plain = letter | digit | chars("_");
+  static constexpr ByteSet plain = letter | digit | chars("_");
   return *text == '\\' ? skipEscaped(text) : skip(text, plain);
 }
 
 const char *zeliScanORKA(const char *text, zelHandle) {
-  constexpr ByteSet plain = graphic - chars("(),/<>\\");
+  static constexpr ByteSet plain = graphic - chars("(),/<>\\");
   if (*text == '\\')
     return skipExtended(text);
   for (;;) {
@@ -96,9 +96,9 @@ const char *zeliScanORKA(const char *text, zelHandle) {
 }
 
 const char *zeliScanKirra(const char *text, zelHandle) {
-  constexpr ByteSet brackets = chars("[]{},");
-  constexpr ByteSet plain = graphic - brackets - chars(".\\");
-  constexpr ByteSet behindPair = range(1, 127) - chars(".");
+  static constexpr ByteSet brackets = chars("[]{},");
+  static constexpr ByteSet plain = graphic - brackets - chars(".\\");
+  static constexpr ByteSet behindPair = range(1, 127) - chars(".");
   const char *const start = text;
   for (;;) {
     text = skip(text, plain);
