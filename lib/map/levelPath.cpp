@@ -3,16 +3,11 @@
 #include "map/plainPath.h"
 #include "path/zelPathParse.h"
 
-#include <algorithm>
 #include <cstdio>
 
 using namespace zeli;
 
 namespace {
-
-bool endsName(const Side &side, char c) {
-  return c == side.marks.divider || c == side.marks.busOpen || c == side.pinDelimiter || c == '\0';
-}
 
 // What a name begins with in the grammar of a side.
 bool beginsName(const Side &side, char c) {
@@ -31,42 +26,7 @@ Bytes LevelPath::refuseAt(std::size_t position, std::int32_t reason) {
   return {};
 }
 
-// From the caller's memory: the copy would have to wait for its own stores.
-void LevelPath::scan(Bytes path) {
-  BlockTest capital = {};
-  std::uint32_t pairs = 0;
-  std::uint32_t carried = 0; // the last underscore of the block before
-  const auto look = [&](Block block, std::size_t behind) {
-    const BlockTest isUpper = isWithin(block, 'A', 'Z');
-    const BlockTest underscore = isChar(block, '_');
-    const std::uint32_t bits = bitsOf(underscore) >> behind;
-    capital |= isUpper;
-    pairs |= bits & (bits << 1 | carried);
-    carried = bits >> (blockBytes - 1);
-    return bitsOf(~(isWithin(block, 'a', 'z') | isUpper | isWithin(block, '0', '9') | underscore)) >> behind;
-  };
-  std::size_t i = 0;
-  for (; (i + 1) * blockBytes <= size; ++i)
-    others[i] = look(loadBlock(path.data() + i * blockBytes), 0);
-  // The rest of the last block belongs to no word.
-  const std::size_t rest = size % blockBytes;
-  const std::uint32_t beyond = 0xFFFFU << rest & 0xFFFFU;
-  if (rest != 0 && i != 0)
-    others[i] = look(loadBlock(path.data() + size - blockBytes), blockBytes - rest) | beyond;
-  else
-    others[i] = rest != 0 ? look(loadPart(path.data(), size), 0) | beyond : beyond;
-  traits = static_cast<Traits>((bitsOf(capital) != 0 ? traitUpper : 0) | (pairs != 0 ? traitTwoUnderscores : 0));
-}
-
-std::size_t LevelPath::wordEnd(std::size_t start) const {
-  std::size_t i = start / blockBytes;
-  std::uint32_t bits = others[i] >> (start % blockBytes) << (start % blockBytes);
-  while (bits == 0)
-    bits = others[++i]; // what stands behind the text belongs to no word
-  return i * blockBytes + static_cast<std::size_t>(__builtin_ctz(bits));
-}
-
-// Where the name at start ends, which is no plain word.
+// Where the name at start ends.
 std::size_t LevelPath::nameEnd(const Route &route, std::size_t start) {
   const Side &from = route.from;
   if (from.ownNames == nullptr)
@@ -128,39 +88,25 @@ bool LevelPath::mapBus(const Route &route, std::size_t open, const Bus &bus) {
     refuseAt(open, ZEL_REASON_NOT_WRITABLE);
     return false;
   }
-  if (bus.isAsPrinted && !isDirected) {
-    begin()[open] = marks.busOpen;
-    begin()[bus.end - 1] = marks.busClose;
-    return true;
-  }
+  if (bus.isAsPrinted && !isDirected)
+    return put(open, Spelled(Bytes(begin() + open + 1, bus.end - open - 2), marks.busOpen, marks.busClose));
   char printed[64];
   const auto first = static_cast<long>(bus.first);
   const auto last = static_cast<long>(bus.last);
   const char *const join = !isDirected ? ":" : first > last ? " downto " : " to ";
-  const int length =
-      bus.isRange
-          ? std::snprintf(printed, sizeof printed, "%c%ld%s%ld%c", marks.busOpen, first, join, last, marks.busClose)
-          : std::snprintf(printed, sizeof printed, "%c%ld%c", marks.busOpen, first, marks.busClose);
-  if (!flush(open) || !put(Bytes(printed, static_cast<std::size_t>(length))))
-    return false;
-  copied = bus.end;
-  return true;
+  const int length = bus.isRange ? std::snprintf(printed, sizeof printed, "%ld%s%ld", first, join, last)
+                                 : std::snprintf(printed, sizeof printed, "%ld", first);
+  return put(open, Spelled(Bytes(printed, static_cast<std::size_t>(length)), marks.busOpen, marks.busClose));
 }
 
-bool LevelPath::put(const Spelled &spelled) {
+bool LevelPath::put(std::size_t place, const Spelled &spelled) {
   if (written + spelled.size() > maxName) {
-    refuseAt(copied, ZEL_REASON_RESULT_TOO_LONG);
+    refuseAt(place, ZEL_REASON_RESULT_TOO_LONG);
     return false;
   }
   spelled.copyTo(respelled + 1 + written);
   written += spelled.size();
   return true;
-}
-
-bool LevelPath::flush(std::size_t end) {
-  const bool isDone = put(Bytes(begin() + copied, end - copied));
-  copied = end;
-  return isDone;
 }
 
 // Reads the name of a level, and writes it behind what stands before it.
@@ -178,7 +124,13 @@ bool LevelPath::respell(const Route &route, std::size_t start, std::size_t end, 
     refuseAt(nameStart, begin()[nameStart] == '\0' ? ZEL_REASON_UNEXPECTED_END : ZEL_REASON_UNEXPECTED_CHARACTER);
     return false;
   }
+  const bool isLettered = isElement && route.to.element != '\0';
+  if (isLettered && !put(start, Bytes(&route.to.element, 1)))
+    return false;
   const Name name(Bytes(begin() + nameStart, end - nameStart));
+  if (route.takesWords() && name.isWord() && !name.has(route.unless) && takesWord(route, name, 0, name.size()))
+    return put(nameStart, name);
+
   const auto refuseName = [&](const Operations *names) {
     const zelRefusal inside = from.explain(*names, name);
     refuseAt(nameStart + inside.position, inside.reason);
@@ -204,50 +156,37 @@ bool LevelPath::respell(const Route &route, std::size_t start, std::size_t end, 
     refuseAt(nameStart, spelled.isRefused() ? ZEL_REASON_NOT_WRITABLE : ZEL_REASON_RESULT_TOO_LONG);
     return false;
   }
-  const bool isLettered = isElement && route.to.element != '\0';
-  if (!flush(start) || (isLettered && !put(Bytes(&route.to.element, 1))) || !put(spelled))
-    return false;
-  copied = end;
-  return true;
+  return put(nameStart, spelled);
 }
 
-Bytes LevelPath::map(Bytes path, const Route &route) {
+Bytes LevelPath::map(Bytes given, const Route &route) {
   const Side &from = route.from;
   const Side &to = route.to;
-  if (path.empty())
+  if (given.empty())
     return refuseAt(0, ZEL_REASON_EMPTY);
-  if (path.size() > longest)
+  if (given.size() > longest)
     return refuseAt(longest, ZEL_REASON_TOO_LONG);
   if ((route.printFlags & wholePathFlags) != 0)
     return refuseAt(0, ZEL_REASON_NOT_WRITABLE);
 
   refusal = {};
   PlainPath plain;
-  if (plain.read(path, route)) {
-    plain.copyTo(begin());
-    return {begin(), plain.size()};
+  if (plain.read(given, route)) {
+    plain.copyTo(respelled);
+    return {respelled, plain.size()};
   }
-  size = path.size();
-  std::memcpy(begin(), path.data(), size);
+  size = given.size();
+  moveBytes(begin(), given.data(), size);
   begin()[size] = '\0';
-  scan(path);
-  const bool areWordsPlain = route.takesWords() && (traits & route.unless) == 0;
-  const bool hasElements = from.element != '\0' || to.element != '\0';
-
-  const std::size_t first = from.language->isIntroduced && *begin() == from.marks.divider ? 1 : 0;
-  std::size_t start = copied = first;
-  written = 0;
-  bool isDivided = false;
+  // The levels that were found to be plain are kept.
+  plain.copyTo(respelled + 1);
+  written = plain.size();
+  bool isDivided = written != 0;
+  const std::size_t first = plain.start();
+  std::size_t start = first + written;
   bool sawPin = false;
   for (;;) {
-    std::size_t end = wordEnd(start);
-    const bool isWord = end != start && endsName(from, begin()[end]);
-    bool isPlain = areWordsPlain && isWord && takesWord(route, path, start, end);
-    if (!isWord || from.ownNames != nullptr) {
-      const std::size_t found = nameEnd(route, start);
-      isPlain = isPlain && found == end;
-      end = found;
-    }
+    const std::size_t end = nameEnd(route, start);
     Bus bus = {};
     const bool hasBus = begin()[end] == from.marks.busOpen && from.marks.busOpen != '\0';
     if (hasBus && !readBus(route, end, bus))
@@ -258,13 +197,9 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
     if (isLast && markPlace != size)
       return refuseAt(markPlace, ZEL_REASON_ILLEGAL_CHARACTER);
 
-    // The separator in front of a pin, which may not stand in respelled yet.
     if (isLast && start != first && (sawPin || route.kind == ZEL_KIND_PIN))
-      begin()[start - 1] = to.pinDelimiter != '\0' ? to.pinDelimiter : to.marks.divider;
-    const bool isElement = hasElements && route.isElement(isLast);
-    if ((!isPlain || isElement) && !respell(route, start, end, isElement))
-      return {};
-    if (hasBus && !mapBus(route, end, bus))
+      respelled[written] = to.pinDelimiter != '\0' ? to.pinDelimiter : to.marks.divider;
+    if (!respell(route, start, end, route.isElement(isLast)) || (hasBus && !mapBus(route, end, bus)))
       return {};
     if (isLast)
       break;
@@ -275,25 +210,16 @@ Bytes LevelPath::map(Bytes path, const Route &route) {
     if (sawPin)
       return refuseAt(markPlace, ZEL_REASON_SECOND_PIN_DELIMITER);
     sawPin = isPin;
-    begin()[markPlace] = to.marks.divider;
+    if (!put(markPlace, Bytes(&to.marks.divider, 1)))
+      return {};
     isDivided = true;
     start = markPlace + 1;
   }
 
-  char *result = begin() + first;
-  std::size_t length = size - first;
-  if (copied != first) {
-    if (!flush(size))
-      return {};
-    result = respelled + 1;
-    length = written;
-  }
-  if (isDivided && to.language->isIntroduced) {
-    *--result = to.marks.divider;
-    ++length;
-  }
-  if (length > maxName)
+  if (!isDivided || !to.language->isIntroduced)
+    return {respelled + 1, written};
+  if (written == maxName)
     return refuseAt(0, ZEL_REASON_RESULT_TOO_LONG);
-  refusal = {};
-  return {result, length};
+  respelled[0] = to.marks.divider;
+  return {respelled, written + 1};
 }

@@ -21,7 +21,7 @@ public:
 
   // The path on the other side of the route; without data where it is refused. A grammar with more than levels may
   // still read it.
-  Bytes map(Bytes path, const Route &route);
+  Bytes map(Bytes given, const Route &route);
 
 private:
   // An index or a range in the text.
@@ -34,28 +34,19 @@ private:
   };
 
   std::size_t size = 0;
-  std::size_t copied = 0; // up to here the text stands in respelled
   std::size_t written = 0;
-  Traits traits = 0;
-  std::uint32_t others[longest / blockBytes + 2]; // a bit a byte that no word holds
+  char text[longest + 1];      // with a NUL behind it
+  char respelled[1 + maxName]; // behind room for one mark
 
-  // Behind room for one mark: the text, whose marks are exchanged in their places; and the result
-  // once something is spelt anew.
-  char text[1 + longest + 1];
-  char respelled[1 + maxName];
+  char *begin() { return text; }
 
-  char *begin() { return text + 1; }
-
-  void scan(Bytes path);
-  std::size_t wordEnd(std::size_t start) const;
   Bytes refuseAt(std::size_t position, std::int32_t reason);
   std::size_t nameEnd(const Route &route, std::size_t start);
   bool readNumber(std::size_t &at, bool takesSign, std::int64_t &value, bool &isAsPrinted);
   bool readBus(const Route &route, std::size_t open, Bus &bus);
   bool mapBus(const Route &route, std::size_t open, const Bus &bus);
   bool respell(const Route &route, std::size_t start, std::size_t end, bool isElement);
-  bool flush(std::size_t end);
-  bool put(const Spelled &spelled);
+  bool put(std::size_t place, const Spelled &spelled);
 };
 
 } // namespace zeli

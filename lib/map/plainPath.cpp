@@ -48,13 +48,14 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
 
 [[gnu::flatten]] bool PlainPath::read(Bytes path, const Route &route) {
   constexpr Traits traitsOfAll = traitUpper | traitTwoUnderscores;
-  if (!route.takesPlainPaths || path.empty() || path.size() > maxName ||
-      ((route.unless & traitsOfAll) != 0 && (lookAt(path).traits & route.unless & traitsOfAll) != 0))
-    return false;
   from = route.from.marks;
   to = route.to.marks;
-  const std::size_t first = route.from.language->isIntroduced && path[0] == from.divider ? 1 : 0;
-  bool isDivided = false;
+  first = route.from.language->isIntroduced && path[0] == from.divider ? 1 : 0;
+  isIntroduced = false;
+  text = Bytes(path.data() + first, 0);
+  if (!route.takesPlainPaths || path.size() > maxName ||
+      ((route.unless & traitsOfAll) != 0 && (lookAt(path).traits & route.unless & traitsOfAll) != 0))
+    return false;
   enum { inName, inFirst, inLast, behindBus } state = inName;
   std::size_t start = first; // of the word or number
   for (std::size_t i = 0; i < path.size(); i += 64)
@@ -67,7 +68,7 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
         if (state == inName ? !takesWord(route, path, start, at) : state != behindBus || start != at)
           return false;
         state = inName;
-        isDivided = true;
+        text = Bytes(text.data(), at + 1 - first);
       } else if (mark == from.busOpen && mark != '\0' && to.busOpen != '\0') {
         if (state != inName || !takesWord(route, path, start, at))
           return false;
@@ -83,9 +84,12 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
     }
   if (state == inName ? !takesWord(route, path, start, path.size()) : state != behindBus || start != path.size())
     return false;
-  text = zeli::from(path, first);
+  const bool isDivided = !text.empty();
+  if (isDivided && route.to.language->isIntroduced && path.size() - first == maxName)
+    return false;
   isIntroduced = isDivided && route.to.language->isIntroduced;
-  return size() <= maxName;
+  text = Bytes(text.data(), path.size() - first);
+  return true;
 }
 
 void PlainPath::copyTo(char *result) const {

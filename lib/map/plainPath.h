@@ -13,15 +13,21 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
 
 class PlainPath {
 public:
-  // Whether path is such a one.
+  // Whether path, which is not empty, is such a one. If not, what follows is about its levels, each with the mark
+  // behind it, in front of the first that is not.
   bool read(Bytes path, const Route &route);
 
-  // The path in the other language, which copyTo puts where there is room for so much. That may be where the path lies.
+  // Where they start in the path: behind a divider in front.
+  std::size_t start() const { return first; }
+
+  // The levels in the other language, which copyTo puts where there is room for so much. That may be where the path
+  // lies.
   std::size_t size() const { return text.size() + (isIntroduced ? 1 : 0); }
   void copyTo(char *to) const;
 
 private:
-  Bytes text; // without the divider in front
+  Bytes text;
+  std::size_t first;
   Punctuation from;
   Punctuation to;
   bool isIntroduced; // a divider is to stand in front
