@@ -15,7 +15,8 @@ int compareBodies(const char *a, bool foldA, const char *b, bool foldB) {
   }
 }
 
-bool isMarker(char c) { return c == 'S' || c == 'I' || c == 'F'; }
+constexpr ByteSet markers = chars("SIF");
+bool isMarker(char c) { return markers.has(c); }
 
 bool isIdent(const char *ident) { return ident != nullptr && isMarker(*ident) && ident[1] != '\0'; }
 
@@ -55,15 +56,14 @@ char *zelIdentToIdent(const char *ident, zelAllocFunc alloc, void *context) noex
 int zelIdentCmp(const char *a, const char *b) noexcept {
   if (!isIdent(a) || !isIdent(b))
     return 0;
+  // Most Idents that are compared are equal, or differ in what case does not change.
+  if (*a == *b)
+    if (const int order = std::strcmp(a + 1, b + 1); order == 0 || *a != 'I')
+      return order;
   bool foldA = *a == 'I';
   bool foldB = *b == 'I';
   if (foldA != foldB && mapStateOfProcess() == ZEL_MAP_MATCH)
     foldA = foldB = true;
-  if (foldA == foldB) {
-    const int order = std::strcmp(a + 1, b + 1);
-    if (order == 0 || !foldA)
-      return order;
-  }
   return compareBodies(a + 1, foldA, b + 1, foldB);
 }
 
