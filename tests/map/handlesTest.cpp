@@ -1,25 +1,7 @@
 // The handles: the separators in force, and which a file may redefine.
-#include "path/languages.h"
-#include "support/spaces.h"
+#include "path/pathSupport.h"
 
 namespace {
-const std::map<std::string, zelHandle> handles = {{"ORKA", zelORKAHandle},
-                                                  {"Tessel", zelTesselHandle},
-                                                  {"Kirra", zelKirraHandle},
-                                                  {"KirraHDL", zelKirraHDLHandle},
-                                                  {"Spice", zelSpiceHandle},
-                                                  {"Verilog", zelVerilogHandle},
-                                                  {"VHDL", zelVHDLHandle},
-                                                  {"VerilogAMS", zelVerilogAMSHandle},
-                                                  {"VHDL87", zelVHDL87Handle},
-                                                  {"VHDLAMS", zelVHDLAMSHandle},
-                                                  {"FlatTessel", zelFlatTesselHandle},
-                                                  {"Gcf", zelGcfHandle},
-                                                  {"Sdf", zelSdfHandle},
-                                                  {"Spf", zelSpfHandle},
-                                                  {"Spef", zelSpefHandle},
-                                                  {"Def", zelDefHandle},
-                                                  {"Lef", zelLefHandle}};
 const std::string none(4, '\0');
 
 // A new handle of a template, which is then freed.
@@ -55,7 +37,7 @@ TEST(Handle, takesWhatAFileRedefines) {
     FlatTessel  []    redefinable
   )")) {
     const std::string &name = row[0];
-    const zelHandle handle = handles.at(name);
+    const zelHandle handle = pathSpaces.at(name).builtIn;
     const bool isFixed = row[2] == "fixed";
     const std::string separators = std::string(4 - row[1].size(), '\0') + row[1];
     std::string defaults = "????";

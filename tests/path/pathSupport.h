@@ -10,35 +10,34 @@
 
 struct Release {
   void operator()(zelPath path) const { zelFreePath(path, nullptr, nullptr); }
-  void operator()(zelHandle handle) const { zelFreeHandle(handle); }
 };
 using Path = std::unique_ptr<zelPathRecord, Release>;
-using Handle = std::unique_ptr<const zelHandleRecord, Release>;
 
 // What parses and prints in a space; handle is null for the separators that the space has.
 struct PathSpace {
   decltype(&zelParseVerilog) parse;
   decltype(&zelPathToVerilogEx) print;
-  zelHandle handle;
+  zelHandle builtIn;
+  zelHandle handle = nullptr;
 };
 inline const std::map<std::string, PathSpace> pathSpaces = {
-    {"Verilog", {zelParseVerilog, zelPathToVerilogEx, nullptr}},
-    {"VerilogAMS", {zelParseVerilogAMS, zelPathToVerilogEx, nullptr}},
-    {"VHDL", {zelParseVHDL, zelPathToVHDLEx, nullptr}},
-    {"VHDL87", {zelParseVHDL87, zelPathToVHDLEx, nullptr}},
-    {"VHDLAMS", {zelParseVHDLAMS, zelPathToVHDLEx, nullptr}},
-    {"ORKA", {zelParseORKA, zelPathToORKAEx, nullptr}},
-    {"Gcf", {zelParseGcf, zelPathToGcfEx, nullptr}},
-    {"Tessel", {zelParseTessel, zelPathToTesselEx, nullptr}},
-    {"FlatTessel", {zelParseFlatTessel, zelPathToFlatTesselEx, nullptr}},
-    {"Sdf", {zelParseSdf, zelPathToSdfEx, nullptr}},
-    {"Spf", {zelParseSpf, zelPathToSpfEx, nullptr}},
-    {"Spef", {zelParseSpef, zelPathToSpefEx, nullptr}},
-    {"Kirra", {zelParseKirra, zelPathToKirraEx, nullptr}},
-    {"KirraHDL", {zelParseKirraHDL, zelPathToKirraHDLEx, nullptr}},
-    {"Spice", {zelParseSpice, zelPathToSpiceEx, nullptr}},
-    {"Def", {zelParseDef, zelPathToDefEx, nullptr}},
-    {"Lef", {zelParseLef, zelPathToLefEx, nullptr}}};
+    {"Verilog", {zelParseVerilog, zelPathToVerilogEx, zelVerilogHandle}},
+    {"VerilogAMS", {zelParseVerilogAMS, zelPathToVerilogEx, zelVerilogAMSHandle}},
+    {"VHDL", {zelParseVHDL, zelPathToVHDLEx, zelVHDLHandle}},
+    {"VHDL87", {zelParseVHDL87, zelPathToVHDLEx, zelVHDL87Handle}},
+    {"VHDLAMS", {zelParseVHDLAMS, zelPathToVHDLEx, zelVHDLAMSHandle}},
+    {"ORKA", {zelParseORKA, zelPathToORKAEx, zelORKAHandle}},
+    {"Gcf", {zelParseGcf, zelPathToGcfEx, zelGcfHandle}},
+    {"Tessel", {zelParseTessel, zelPathToTesselEx, zelTesselHandle}},
+    {"FlatTessel", {zelParseFlatTessel, zelPathToFlatTesselEx, zelFlatTesselHandle}},
+    {"Sdf", {zelParseSdf, zelPathToSdfEx, zelSdfHandle}},
+    {"Spf", {zelParseSpf, zelPathToSpfEx, zelSpfHandle}},
+    {"Spef", {zelParseSpef, zelPathToSpefEx, zelSpefHandle}},
+    {"Kirra", {zelParseKirra, zelPathToKirraEx, zelKirraHandle}},
+    {"KirraHDL", {zelParseKirraHDL, zelPathToKirraHDLEx, zelKirraHDLHandle}},
+    {"Spice", {zelParseSpice, zelPathToSpiceEx, zelSpiceHandle}},
+    {"Def", {zelParseDef, zelPathToDefEx, zelDefHandle}},
+    {"Lef", {zelParseLef, zelPathToLefEx, zelLefHandle}}};
 // The languages that have a printer of their own.
 inline const std::vector<std::string> printedLanguages =
     wordsOf("Verilog Kirra KirraHDL VHDL ORKA Tessel FlatTessel Lef Def Sdf Spf Spef Gcf Spice");
@@ -52,10 +51,9 @@ inline PathSpace spaceAt(const std::string &words) {
   if (end != words.size()) {
     std::string separators = words.substr(end + 1, words.size() - end - 2);
     separators.resize(4, '\0');
-    const auto at = [&](std::size_t i) { return static_cast<std::uint32_t>(separators[i]); };
     Handle &handle = made[words];
     if (handle == nullptr)
-      handle.reset(zelGetHandle(name.c_str(), at(3), at(0), at(1), at(2)));
+      handle.reset(makeHandle(zelGetHandle, name, separators[3] + separators.substr(0, 3)));
     space.handle = handle.get();
   }
   return space;
