@@ -3,8 +3,8 @@
 //     write    Sa b  \a#20b␣    in MATCH     an Ident and its name
 //     read     \a    Ia                      a name and its Ident
 //     both     SA+b  \A+b␣                   an Ident and its name, which is legal and read as that Ident
-//     refused  1a                            what is neither legal nor read
-//     legal    a
+//     refused  1a $                          names that are neither legal nor read
+//     legal    a \a␣
 //     illegal  1a
 //
 // A result holds in every mapping state, or in those that stand behind it: "in MATCH", "not in VHDL TANDEM"; more such
@@ -36,11 +36,14 @@ inline void expectRules(const char *file, int line, const char *table) {
             if (row[0] == "read" || isBoth)
               row.expect(isBoth ? row[1] : row[i], convert(read, row[isBoth ? i : 1].c_str()), where);
           }
-        if (row[0] == "refused")
-          row.expect("refused", convert(read, row[1].c_str()), where);
-        if (row[0] != "write" && row[0] != "read")
-          row.expect(row[0] == "legal" || isBoth ? "1" : "0", std::to_string(isLegal(row[isBoth ? 2 : 1].c_str())),
-                     where + ", whether it is legal");
+        if (isBoth)
+          row.expect("1", std::to_string(isLegal(row[2].c_str())), where + ", whether it is legal");
+        if (row[0] == "legal" || row[0] == "illegal" || row[0] == "refused")
+          for (const std::string &text : wordsOf(row.cells[1])) {
+            const std::string given = text + ", " + where;
+            row.expect(row[0] == "legal" ? "1" : "0", std::to_string(isLegal(text.c_str())), given);
+            row.expect("refused", row[0] == "refused" ? convert(read, text.c_str()) : "refused", given);
+          }
       }
 }
 

@@ -41,20 +41,12 @@ inline std::string decoded(std::string text) {
 // A text as a cell shows it, shortened when nobody would read it to its end.
 inline std::string shown(const std::string &text) {
   std::string result;
-  for (std::size_t i = 0; i < text.size() && result.size() < 300; ++i) {
-    const char c = text[i];
-    const bool isSeen = c > ' ' && c < '\x7f';
-    const bool isInside = c == ' ' && i != 0 && i + 1 != text.size() && text[i - 1] != ' ' && text[i + 1] != ' ';
+  for (const char c : text.substr(0, 200)) {
     char code[8];
     std::snprintf(code, sizeof code, "<%02x>", static_cast<unsigned>(static_cast<unsigned char>(c)));
-    std::string_view form = isSeen || isInside ? std::string_view(&c, 1) : code;
-    for (const VisibleByte &byte : visibleBytes)
-      if (byte.meant == c && !isInside)
-        form = byte.shown;
-    result += form;
+    result += c >= ' ' && c < '\x7f' ? std::string(1, c) : code;
   }
-  const std::string length = "… (" + std::to_string(text.size()) + " bytes)";
-  return text.empty() ? "\"\"" : text.size() < 200 ? result : result.substr(0, 40) + length;
+  return text.size() > 200 ? result + "… (" + std::to_string(text.size()) + " bytes)" : '"' + result + '"';
 }
 
 // The words of a text, each of them decoded.
