@@ -69,7 +69,7 @@ TEST(CurrentHandle, decidesWhatIsEscaped) {
           row.expect(row[3], name, space.name);
         }
         const Result ident = take(space.read(name.c_str(), nullptr, nullptr, handle.get()));
-        row.expect(row.cells.back(), stated(ident, errno), space.name);
+        row.expect(decoded(row.cells.back()), stated(ident, errno), space.name);
       }
   }
 }

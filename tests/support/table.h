@@ -61,7 +61,7 @@ inline std::vector<std::string> wordsOf(const std::string &text) {
 class Row {
 public:
   const std::string heading;
-  std::vector<std::string> cells;
+  std::vector<std::string> cells; // as they stand
 
   Row(const char *inFile, int atLine, std::string under, std::string standing)
       : heading(std::move(under)), file(inFile), line(atLine), text(std::move(standing)) {
@@ -70,7 +70,7 @@ public:
       const std::string cell = text.substr(at, end - at);
       if (cell.starts_with("// "))
         break;
-      cells.push_back(decoded(cell));
+      cells.push_back(cell);
       at = end;
     }
   }
@@ -81,8 +81,8 @@ public:
       ADD_FAILURE_AT(file, line) << text << "\n  was not tried";
   }
 
-  // A cell; empty where the row has ended.
-  std::string operator[](std::size_t i) const { return i < cells.size() ? cells[i] : ""; }
+  // What a cell stands for; empty where the row has ended.
+  std::string operator[](std::size_t i) const { return i < cells.size() ? decoded(cells[i]) : ""; }
 
   void expect(const std::string &expected, const std::string &found, const std::string &where = "") {
     isTried = true;
