@@ -152,7 +152,15 @@ TEST(Mapping, answers) {
     Verilog Sdf                          a[                @2 unbalanced bracket
     Verilog Sdf                          a[99999999999]    @2 number out of range
     Verilog Sdf                          {a[-99999999999]  @3 number out of range
-    Verilog Sdf                          {a                @2 unbalanced brace
+    Verilog Sdf                          {a},{b            @6 unbalanced brace
+    Verilog Sdf                          {\{␣              @4 unbalanced brace     // an escaped brace opens nothing
+    Verilog Sdf                          \␣.a              @0 cannot be written in the target  // nothing between backslash and blank
+    Verilog Sdf names                    \␣                @0 cannot be converted
+    VHDL Verilog names                   \a␉b              @2 illegal character
+    VHDL Verilog names                   \a\bc             @3 unexpected character
+    VHDL Verilog names                   \ab               @3 nothing ends the escape or quote
+    VHDL Verilog names                   signal            @0 reserved word
+    Spice Verilog from=0/[]              a\                @1 nothing ends the escape or quote
     VHDL Verilog                         a_                @1 illegal character
     VHDL Verilog                         a__b              @2 illegal character
     VHDL Verilog                         _a                @0 illegal first character
@@ -193,6 +201,7 @@ TEST(Mapping, answers) {
     Spice Spice element=r kind=port    Ru1.n      ru1.n
     Spice Spice element=X levels=last kind=instance  u1.xu2     u1.Xu2
     Spice Verilog names element=X kind=instance  Xu1        u1
+    Verilog Spice names element=X kind=instance  u1         Xu1
     Spice Verilog names element=X kind=instance  u1         @0 the instance does not begin with its element letter
     Spice Verilog names element=X kind=instance  X          @1 there is no name
     // More than levels.
@@ -220,6 +229,7 @@ TEST(Mapping, answers) {
 TEST(Mapping, knowsLimits) {
   const Mapping toDef("Verilog Def");
   const Mapping toSpice("Verilog Spice element=X kind=instance");
+  const Mapping toPin("Verilog Spef kind=pin");
   const Mapping names("Verilog Sdf names");
   const std::string longest(ZEL_MAX_NAME, 'n');
   for (const Mapping *mapping : {&toDef, &names}) {
@@ -230,6 +240,14 @@ TEST(Mapping, knowsLimits) {
   EXPECT_EQ(toSpice.answer(longest), "@0 the result is longer than 2047 characters");
   EXPECT_EQ(toDef.answer(longest + ".a"), "@0 the result is longer than 2047 characters");
   EXPECT_EQ(toDef.answer(std::string(5000, ' ') + "a"), "@4094 the name is longer than 2047 characters");
+  // Where the second level, the rest, or the index no longer fits.
+  EXPECT_EQ(toPin.answer(std::string(1500, 'n') + ".\\" + std::string(600, '[') + " ").substr(0, 13), "@1501 the res");
+  EXPECT_EQ(toPin.answer('\\' + std::string(1000, '[') + " ." + std::string(1000, 'n')).substr(0, 13), "@1002 the res");
+  EXPECT_EQ(toPin.answer('\\' + std::string(1022, '[') + " [01:002]").substr(0, 13), "@1024 the res");
+  std::string list = "{a"; // of more items than are held without memory
+  for (int i = 0; i < 1000; ++i)
+    list += ",a";
+  EXPECT_EQ(Mapping("Verilog Verilog").answer(list + '}'), list + '}');
   const std::string marks = '\\' + std::string(1500, '[') + ' ';
   EXPECT_EQ(names.answer(marks), "@0 the result is longer than 2047 characters");
   EXPECT_EQ(names.key(marks), "refused");
@@ -271,6 +289,7 @@ TEST(Mapping, checksResults) {
     Verilog Spice           a[3]     a[3]    other  // of a name, without brackets
     Verilog Spef kind=pin   a.b      a:b     same
     Verilog Verilog         {a,b}    {a,b}   same
+    Verilog VHDL keywords=1076-2008  context  \context\  same
   )"))
     row.expect(row[3], Mapping(row[0]).check(row[1], row[2]));
 }
@@ -320,18 +339,16 @@ TEST(Mapping, saysWhichOptionIsWrong) {
     Verilo Sdf                           no space is called 'Verilo'
     Verilog SystemSdf                    no space is called 'SystemSdf'
     Verilog Sdf kind=4                   there is no such kind of object
+    Verilog Sdf kind=-1                  there is no such kind of object
     Verilog Spice levels=2               element letters stand on all levels or on the last
     Verilog Sdf print=32                 there is no such print flag
     Verilog Spice element=3              an element letter is a letter
     Verilog Sdf element=X                only SPICE has element letters
     Verilog Sdf state=1                  there is no such mapping state
+    Verilog Sdf state=6                  there is no such mapping state
     Verilog Sdf from=0/[]                the separators of Verilog are fixed
     Verilog Ascii to=0/[]                Ascii has no separators
-    Verilog Sdf to=0a[]                  these separators of Sdf cannot be told from each other or from names
-    Verilog Sdf to=0[[]                  these separators of Sdf cannot be told from each other or from names
     Verilog Def to=0%[]                  these separators of DEF cannot be told from each other or from names
-    Verilog Spef to=[/[]                 these separators of Spef cannot be told from each other or from names
-    Verilog Spice to=0/[0                these separators of Spice cannot be told from each other or from names
     Verilog Sdf keywords=1800-2017       the revision 1800-2017 is not one of the target
     Verilog Verilog keywords=1076-2008   the revision 1076-2008 is not one of the target
     Verilog Verilog keywords=1995        no keyword revision is called '1995'
@@ -348,11 +365,18 @@ TEST(Mapping, saysWhichOptionIsWrong) {
     row.expect(row[1].substr(0, 8), cut);
     row.expect("1", std::to_string(zelCreateMapping(&options, nullptr, 0) == nullptr));
   }
+  // The separators of each would be ambiguous; no lenient mapping knows what the others ask for.
+  for (const char *wrong : {"Sdf to=0a[]", "Sdf to=0/a]", "Sdf to=0/[a", "Sdf to=0[[]", "Sdf to=0][]", "Sdf to=0/[[",
+                            "Spef to=[/[]", "Spef to=]/[]", "Spef to=a/[]", "Spice to=0/[0", "Spice element=X lenient",
+                            "Spice to=0/[] lenient", "Verilog keywords=1364-2005 lenient"})
+    EXPECT_EQ(zelCreateMapping(&Options(std::string("Verilog ") + wrong), nullptr, 0), nullptr) << wrong;
   zelMappingOptions unsized = {};
   unsized.from = unsized.to = "Sdf";
   EXPECT_EQ(zelCreateMapping(&unsized, nullptr, 0), nullptr);
   EXPECT_EQ(zelCreateMapping(nullptr, nullptr, 0), nullptr);
   unsized.size = sizeof unsized;
+  unsized.to = nullptr;
+  EXPECT_EQ(zelCreateMapping(&unsized, nullptr, 0), nullptr);
   unsized.from = nullptr;
   EXPECT_EQ(zelCreateMapping(&unsized, nullptr, 0), nullptr);
 }
@@ -440,12 +464,12 @@ void *growNothing(void *, std::uint64_t, void *) { return nullptr; }
 
 // A column with a null in it, as a slice of a longer one, in a mapping: the results, with the place of each refusal.
 template <typename Offset> std::string mapColumn(const Mapping &mapping, std::uint32_t bits, bool isMarked) {
-  const Offset offsets[] = {2, 6, 12, 12, 15, 19};
-  const std::uint8_t validity = 0b10111;
-  const zelColumn column = {sizeof column, bits, 5, offsets, "xxu1.Amodulea.bu2.B", isMarked ? &validity : nullptr};
-  Offset results[6] = {-1};
-  std::uint8_t reasons[5] = {};
-  std::uint32_t positions[5] = {};
+  const Offset offsets[] = {2, 6, 12, 12, 15, 19, 22};
+  const std::uint8_t validity = 0b110111;
+  zelColumn column = {sizeof column, bits, 6, offsets, "xxu1.Amodulea.bu2.Bx\0y", isMarked ? &validity : nullptr};
+  Offset results[7] = {-1};
+  std::uint8_t reasons[6] = {};
+  std::uint32_t positions[6] = {};
   zelColumnResult result = {sizeof result, results, nullptr, nullptr, 0, nullptr, 0, 0, growNothing, nullptr};
   EXPECT_EQ(zelMapColumn(mapping.get(), &column, &result), ENOMEM);
   result.grow = nullptr;
@@ -453,21 +477,27 @@ template <typename Offset> std::string mapColumn(const Mapping &mapping, std::ui
   result.positions = isMarked ? positions : nullptr;
   EXPECT_EQ(zelMapColumn(mapping.get(), &column, &result), 0);
   std::string found = std::to_string(result.refused) + " refused:";
-  for (int i = 0; i < 5; ++i)
+  for (int i = 0; i < 6; ++i)
     found += " " + std::string(result.bytes + results[i], result.bytes + results[i + 1]) +
              (reasons[i] == ZEL_REASON_NONE ? "" : "@" + std::to_string(positions[i])) + ";";
   std::free(result.bytes);
   EXPECT_EQ(zelMapColumn(nullptr, &column, &result) + zelMapColumn(mapping.get(), nullptr, &result), 2 * EINVAL);
+  column.offsetBits = 16;
+  EXPECT_EQ(zelMapColumn(mapping.get(), &column, &result), EINVAL);
+  column.size = 4;
+  EXPECT_EQ(zelMapColumn(mapping.get(), &column, &result), EINVAL);
   return found;
 }
 } // namespace
 
 TEST(MapColumn, mapsTextByText) {
+  const Mapping names("Verilog Sdf names");
   const Mapping strict("Verilog Sdf");
   const Mapping lenient("Verilog Sdf lenient");
-  EXPECT_EQ(mapColumn<std::int32_t>(strict, 32, true), "2 refused: u1/A; @0; @0; ; u2/B;");
-  EXPECT_EQ(mapColumn<std::int64_t>(strict, 64, false), "2 refused: u1/A; ; ; a/b; u2/B;");
-  EXPECT_EQ(mapColumn<std::int64_t>(lenient, 64, true), "1 refused: u1/A; @0; ; ; u2/B;");
+  EXPECT_EQ(mapColumn<std::int32_t>(strict, 32, true), "3 refused: u1/A; @0; @0; ; u2/B; @1;");
+  EXPECT_EQ(mapColumn<std::int64_t>(strict, 64, false), "3 refused: u1/A; ; ; a/b; u2/B; ;");
+  EXPECT_EQ(mapColumn<std::int64_t>(lenient, 64, true), "2 refused: u1/A; @0; ; ; u2/B; @0;");
+  EXPECT_EQ(mapColumn<std::int32_t>(names, 32, true), "5 refused: @2; @0; @0; ; @2; @1;");
 }
 
 // Lines, what becomes of them, how many of how many are refused, and the first of those: line, start, length, place.

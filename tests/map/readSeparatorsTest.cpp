@@ -96,6 +96,7 @@ TEST(ReadSeparators, ofEveryFormat) {
        "Spf :/[]"},
       {"* extracted\n*|RSPF \"1.0\"\n*DIVIDER #\n*|divider\t|\n*|Delimiter \"#\"\n*|BUSBIT \"< >\"\n+ x", "Spf #|<>"},
       {"*|DSPF\n *|DIVIDER .", "Spf ----"}, // not at the beginning of its line
+      {"*|DSPF\n*|DIVIDER\n*|DELIMITER ::\n*|BUSBIT [", "Spf ----"},
       {"*|DSPF\n*|DIVIDER .\n*|BUSBIT [x]\n*|NET n 1\n*|DELIMITER :", "Spf -.--"},
       {"*|DIVIDER /\nR1 a b 1\n*|DSPF", "EINVAL"},
       {"(DELAYFILE\n (SDFVERSION \"3.0\")\n (DESIGN \"\\\" (DIVIDER |)\")\n (DIVIDER .)\n (VOLTAGE 1.8::1.8)\n (CELL\n",

@@ -142,6 +142,17 @@ TEST(PathModel, RemovalOfIndexesAndLevels) {
   EXPECT_EQ(internals::bytesOf(path.get()), "27 28 29 30 31 32 33 34 | 27");
 }
 
+// The chunk that the walk stands on is taken from under it.
+TEST(PathModel, EndsTheWalkWhereItsChunkIsGone) {
+  const Path path = built(repeated("Sa ", 10));
+  zelPathSetLocation(path.get(), 513);
+  zelFreePathFromLocation(path.get(), 8, nullptr, nullptr);
+  EXPECT_EQ(zelPathGetIndex(path.get()), -1);
+  zelPathAddIdent(path.get(), "Sb", 1);
+  EXPECT_EQ(zelPathGenNext(path.get()), ZEL_ITEM_END);
+  EXPECT_EQ(zelPathGetLocation(path.get()), 456U); // nowhere
+}
+
 TEST(PathModel, RemovalFromALocation) {
   for (const auto &[left, location] : {std::pair(0, 0U), {0, 256}, {1, 257}, {5, 261}, {6, 512}, {8, 514}, {9, 521}}) {
     Memory memory;

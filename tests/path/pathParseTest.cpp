@@ -183,6 +183,7 @@ TEST(PathParse, ORKA) {
       <*1897152>a   ""                     error
       a(12)(3)b/c   a(12)(3)b c            hierarchy
       a(x)          a                      error
+      a(3           a                      error
       a()           a                      error
       2*3+[:].{}    2*3+[:].{}
       \             \
@@ -202,6 +203,10 @@ TEST(PathParse, ORKA) {
       a<3           a [3]                  error index
       a<3:>         a                      error index
       a<3: 4>       a 4                    error index                          // no blank there
+      a<3:4:2:1>    a [3:4:2] ? :1         error index range complex-index
+      a<1)>         a [1] }                error index                          // closes no index list
+      a<*2>         a *2                   error
+      a<(1,(2))>    a ( [1]                error index
       a<1><2>       a [1] [2]              error index
       a<1,>         a [1]                  error index
       a<1,,2>       a [1] , 2              error index list
@@ -240,6 +245,7 @@ TEST(PathParse, BusFormats) {
       a[3:]               a                    error
       a[1:2:3]            a                    error
       a[b]                a b                  error
+      a[3 4]              a                    error
       a[1897152]          a                    error
     Sdf Spf Spef:
       a\/b\[3\]/c  a\/b\[3\] c  hierarchy

@@ -124,6 +124,7 @@ TEST(PathPrint, Names) {
     items       ORKA                  plain    Sa S Sb            a//b
     items       Sdf                   plain    Xa [3] Sb          [3]/b
     items       VHDL                  plain    - Sb               b
+    items       Verilog ORKA          plain    @Sl.Sc Sa          a
     items       VHDL                  plain    @Sl.Sc(Sv) Sa      @l.c(v):a
     Tessel      Tessel                explode  ||a[1:0]           |a[1],|a[0]
     Tessel      Lef(.<>) Def(.<>) Sdf(.<>) Spf(.<>) Spef(.<>) Gcf(.<>)  explode  |a|b<[1:0]         .a.b\<<1>,.a.b\<<0>

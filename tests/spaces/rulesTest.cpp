@@ -177,6 +177,7 @@ TEST(Rules, ofKirra) {
       both     I1abc    \1abc   // lacks the digit behind the letters
       both     I1_      \1_
       both     I1a2!    1a2!
+      both     I1!      \1!
       both     I1a2.    \1a2\.  // not anything
       write    S1a\.2   1a\.2   // backslashes stand as they are
       write    S1a2\    1a2\    // even the last
