@@ -149,6 +149,7 @@ TEST(Mapping, answers) {
     Verilog Sdf                          a.                @2 unexpected end
     Verilog Sdf                          a␣b               @2 unexpected character  // by the grammar with blanks
     Verilog Sdf                          a[3]b             @4 unexpected character  // else a level of its own
+    Verilog Sdf                          a[x]              @2 unexpected character
     Verilog Sdf                          a[                @2 unbalanced bracket
     Verilog Sdf                          a[99999999999]    @2 number out of range
     Verilog Sdf                          {a[-99999999999]  @3 number out of range
@@ -366,9 +367,10 @@ TEST(Mapping, saysWhichOptionIsWrong) {
     row.expect("1", std::to_string(zelCreateMapping(&options, nullptr, 0) == nullptr));
   }
   // The separators of each would be ambiguous; no lenient mapping knows what the others ask for.
-  for (const char *wrong : {"Sdf to=0a[]", "Sdf to=0/a]", "Sdf to=0/[a", "Sdf to=0[[]", "Sdf to=0][]", "Sdf to=0/[[",
-                            "Spef to=[/[]", "Spef to=]/[]", "Spef to=a/[]", "Spice to=0/[0", "Spice element=X lenient",
-                            "Spice to=0/[] lenient", "Verilog keywords=1364-2005 lenient"})
+  for (const char *wrong :
+       {"Sdf to=0a[]", "Sdf to=0+[]", "Sdf to=0-[]", "Sdf to=0#[]", "Sdf to=0/a]", "Sdf to=0/[a", "Sdf to=0[[]",
+        "Sdf to=0][]", "Sdf to=0/[[", "Spef to=[/[]", "Spef to=]/[]", "Spef to=a/[]", "Spice to=0/[0",
+        "Spice element=X lenient", "Spice to=0/[] lenient", "Verilog keywords=1364-2005 lenient"})
     EXPECT_EQ(zelCreateMapping(&Options(std::string("Verilog ") + wrong), nullptr, 0), nullptr) << wrong;
   zelMappingOptions unsized = {};
   unsized.from = unsized.to = "Sdf";

@@ -1,17 +1,19 @@
 // What each grammar accepts, and what it keeps of what it refuses: languages, then a text, its items and what is noted
-// of it, in the spelling of pathSupport.h.
+// of it, in the spelling of pathSupport.h; behind "each", several texts of which the same is kept.
 #include "path/pathSupport.h"
 
 namespace {
 
 void expectParsed(const char *file, int line, const char *table) {
-  for (Row &row : rowsOf(file, line, table))
-    for (const std::string &source : wordsOf(row.heading)) {
-      const std::string text = row[0];
-      const Path path = parse(source, text.c_str());
-      row.expect(row[1], itemsOf(path.get()), source);
-      row.expect(row[2], flagsOf(path.get()), source);
-    }
+  for (Row &row : rowsOf(file, line, table)) {
+    const bool isEach = row[0] == "each";
+    for (const std::string &source : wordsOf(row.heading))
+      for (const std::string &text : isEach ? wordsOf(row.cells[1]) : std::vector{row[0]}) {
+        const Path path = parse(source, text.c_str());
+        row.expect(row[isEach ? 2 : 1], itemsOf(path.get()), text + " of " + source);
+        row.expect(row[isEach ? 3 : 2], flagsOf(path.get()), text + " of " + source);
+      }
+  }
 }
 
 TEST(PathParse, Verilog) {
@@ -19,11 +21,10 @@ TEST(PathParse, Verilog) {
     Verilog VerilogAMS Kirra KirraHDL:
       ""                       ""
       ␣a . b␣                  a b                      hierarchy
-      a.                       a                        error hierarchy
-      .a                       ""                       error
-      a..b                     a                        error hierarchy
+      each  a. a..b a.{b}  a  error hierarchy
+      each  .a [3] ,a  ""  error
       a b                      a b                      error       // of blanks, only one between names is refused
-      aé                       a                        error
+      each  aé a[1:2:3] a[.b] a[3{ a[-␣3] a[] a{  a  error
       a[3].b                   a [3] b                  hierarchy index mid-index
       a[7:0].b                 a [7:0] b                hierarchy range mid-range
       a[ 3 : 0 ]               a [3:0]                  range
@@ -31,14 +32,8 @@ TEST(PathParse, Verilog) {
       a[-]                     a [0]                    index
       a[3]{b}                  a [3] { b }              index
       a[1][2]                  a [1]                    error index
-      a[1:2:3]                 a                        error
-      [3]                      ""                       error
-      a[.b]                    a                        error
-      a[3{                     a                        error
-      a[- 3]                   a                        error
       a[,b]                    a , b                    error list  // the comma is taken right behind an open bracket
       a[}                      a }                      error
-      a[]                      a                        error
       a,                       a ,                      error list
       a[-200001]               a                        error       // out of range
       a[18446744073709551617]  a                        error       // 2^64 + 1
@@ -51,14 +46,11 @@ TEST(PathParse, Verilog) {
       {a},b                    { a } , b                list
       a,{b}                    a , { b }                list
       a,,b                     a ,                      error list
-      ,a                       ""                       error
       {a                       { a                      error
       {2}                      {                        error
       {a}}                     { a } }                  error
       {a}.b                    { a }                    error
       {a}[3]                   { a }                    error
-      a{                       a                        error
-      a.{b}                    a                        error hierarchy
       {1897152{a}}             {                        error       // out of range
     Verilog VerilogAMS:
       \a.b .c   \a.b␣ c  hierarchy
@@ -109,17 +101,12 @@ TEST(PathParse, VHDL) {
       a(3)b               a [3]                 error index
       a(3 )               a                     error index      // the blank takes the bracket with it
       a(3 ))              a [3]                 index            // so it needs another
-      a(7 downto0)        a                     error index
-      a(0 to 3 to 4)      a                     error index
-      a()                 a                     error index
-      a(3:4)              a                     error index
-      a:(3)               a                     error hierarchy
-      (3)                 ""                    error
-      ""                  ""                    error
-      a:                  a                     error hierarchy
+      each  a(7␣downto0) a(7␣downto a(3␣␣ a(0␣to␣3␣to␣4) a() a(-1) a(3:4) a(1897152) a(1␣to␣1897152)  a  error index
+      each  a:(3) a: a:@c a:Entity  a  error hierarchy
+      each  (3) "" : 1a pure a__b \ \a \a␉b\ \aé\  ""  error
+      each  @ @.c @l␣c @l.c.d @l.c(v @l.c(v␣w) @l.c(v)( @c(v) @a__b  ""  error
       a b                 a                     error
       aé                  a                     error
-      a(1897152)          a                     error index
       a,b,c               a , b , c             list
       a& b                a , b                 list
       a&b                 a ,                   error list       // the character behind & goes unread
@@ -136,21 +123,11 @@ TEST(PathParse, VHDL) {
       a(3)@c:b            a [3] @-.Ic b         hierarchy index  // behind a lone cell no index is noted
       a(1 to 2)@l.c(v):b  a [1:2] @Il.Ic(Iv) b  hierarchy index range mid-range
       @l.c,a              , a                   list             // only a colon and the end keep a library reference
-      @                   ""                    error
-      @l.c(v              ""                    error
-      @l.c(v)(            ""                    error
-      @c(v)               ""                    error
-      @a__b               ""                    error
-      a:@c                a                     error hierarchy
       quantity            quantity                               // a word of VHDLAMS alone counts when the name is converted
-      pure                ""                    error
       \a b\:c             \a b\ c               hierarchy
       \a\\b\(3)           \a\\b\ [3]            index
       \a:(b\              \a:(b\
-      \a                  ""                    error
       \a\b                \a\                   error            // the backslash closes it
-      \a␉b\               ""                    error
-      a:Entity            a                     error hierarchy
   )");
 }
 
@@ -167,7 +144,7 @@ TEST(PathParse, ORKA) {
       <*2>(a,b)     <*2> { a , b }         repeat list
       < *2 >a       <*2> a                 repeat
       (<*2>a)       { <*2> a }             repeat
-      ""            ""                     error
+      each  "" / ,a /(a) <* <*1897152>a  ""  error
       a,            a ,                    error list
       (a            { a                    error
       a)            a }                    error
@@ -175,16 +152,11 @@ TEST(PathParse, ORKA) {
       ((a))         {                      error
       (a),b         { a }                  error
       (a)/b         { a }                  error
-      /(a)          ""                     error
-      a>            a                      error
+      each  a> aé a< a(x) a(3 a()  a  error
       <2>           2                      error                                // no repeat
       <*2>          <*2>                   error repeat
       <*2><*3>a     <*2>                   error repeat
-      <*1897152>a   ""                     error
       a(12)(3)b/c   a(12)(3)b c            hierarchy
-      a(x)          a                      error
-      a(3           a                      error
-      a()           a                      error
       2*3+[:].{}    2*3+[:].{}
       \             \
       \a/ b\/c      \a/ b\ c               hierarchy
@@ -242,11 +214,8 @@ TEST(PathParse, BusFormats) {
       a//b                a                    error hierarchy
       a[3]/               a [3]                error hierarchy index mid-index  // an index is noted before the next level
       a[3]]               a [3]                error index
-      a[3:]               a                    error
-      a[1:2:3]            a                    error
+      each  a] aé a[:3] a[3:] a[/b] a[1:2:3] a[3␣4] a[-200001] a[1897152]  a  error
       a[b]                a b                  error
-      a[3 4]              a                    error
-      a[1897152]          a                    error
     Sdf Spf Spef:
       a\/b\[3\]/c  a\/b\[3\] c  hierarchy
       a:b          a ''         error  // a colon ends a name and starts none

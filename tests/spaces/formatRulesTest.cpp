@@ -16,7 +16,7 @@ TEST(Rules, ofSpice) {
       read     é.       Ié.     // what is read is not checked
       legal    .ab.             // the first and the last are not tested
       legal    ␣ (ab)
-      illegal  a.b a\␣b \.ab aéz
+      refused  a.b a\␣b \.ab aéz
   )");
 }
 
@@ -33,8 +33,8 @@ TEST(Rules, ofTimingAndParasitics) {
       both     I1a     1a      // a digit may begin
       write    Sa#2E   a\#2E   // no escape: the dot is quoted
       read     a\#4a   IaJ     // what an escape stands for is no capital of the name
-      illegal  a\ a\b a#b a\␣
-      illegal  a\é             // of no class
+      refused  a\ a\b a#b a\␣
+      refused  a\é             // of no class
     Spf:
       both     Ia.b    a.b
       both     Ia:b    a\:b
@@ -49,8 +49,8 @@ TEST(Rules, ofTimingAndParasitics) {
       read     a\      Ia\
       read     a#41    IaA     // an escape of anything
       legal    a␣b a\ [
-      illegal  é
-      illegal  \é              // a byte of 128 or above has only the escape
+      refused  é
+      refused  \é              // a byte of 128 or above has only the escape
   )");
 }
 
@@ -73,14 +73,14 @@ TEST(Rules, ofLayout) {
       read     a\b    Ia\b
       read     a%41   IaA
       legal    a$b-c %
-      illegal  a# a; a\; a\é
+      refused  a# a; a\; a\é
     Def:
       read     a/b   Ia/b     // names of DEF may hold separators
       read     A[1]  SA[1]
       legal    [
     Lef:
-      illegal  a/b            // those of LEF may not
-      illegal  A[1] [ ]
+      refused  a/b            // those of LEF may not
+      refused  A[1] [ ]
   )");
 }
 
@@ -97,7 +97,7 @@ TEST(Rules, ofTessel) {
       read     a\     Ia\     // quotes nothing
       read     a#41   IaA     // an escape of anything
       legal    a/b
-      illegal  a|b [ é
+      refused  a|b [ é
     FlatTessel:
       both     Ia|b   a|b     // no divider here
       both     Ia[1]  a\[1\]
@@ -105,7 +105,7 @@ TEST(Rules, ofTessel) {
       both     Ia␣b   a#20b
       write    Sa#5b  a#5b    // no escape: the bracket is quoted
       write    IA[    a\[   not in MATCH  A\[  in MATCH
-      illegal  a\ a\b a\| [ a␣b
+      refused  a\ a\b a\| [ a␣b
   )");
 }
 
@@ -119,14 +119,14 @@ TEST(Rules, ofWords) {
       read     a#E9     Iaé
       legal    !~
       legal    module              // no keywords
-      illegal  a␉ é
+      refused  a␉ é
     Ascii:
       both     Sa␉B     a␉B        // any ASCII
       both     I␁       ␁
       both     Ié       #e9
       write    Sa#23e9  a#2323e9   // would be read as a mark that is escaped
       write    IABC     abc  not in MATCH  ABC  in MATCH
-      illegal  aé
+      refused  aé
   )");
 }
 
@@ -153,11 +153,11 @@ TEST(Rules, ofLibraries) {
       read     %a#4A     SA#4a                 // no escape: J needs none
       read     a#2%a     Sa#2A                 // a mark ends an escape
       legal    con1 %%COM1 a%B
-      illegal  Con                             // in any case
-      illegal  lpt9 %%%a % a%%b é
-      illegal  %%foo                           // no device name
-      illegal  %%con1                          // nor this
-      illegal  a%1                             // only letters have capitals
+      refused  Con                             // in any case
+      refused  lpt9 %%%a % a%%b é
+      refused  %%foo                           // no device name
+      refused  %%con1                          // nor this
+      refused  a%1                             // only letters have capitals
     LibraryUnix Library Filesys:
       write    IMixed    mixed                 // in every state
       write    SMixed    Mixed
@@ -171,7 +171,7 @@ TEST(Rules, ofLibraries) {
       read     A#2eb     SA.b     not in MATCH     FA.b  in MATCH
       read     a#2Eb     Ia.b
       legal    a_@#9
-      illegal  a.b %a é
+      refused  a.b %a é
   )");
 }
 
@@ -216,8 +216,8 @@ TEST(Rules, ofVellum) {
       read     a#E9       Iaé
       legal    a␣b "a<b" \\
       legal    \␣a␣\                           // blanks count there
-      illegal  ␣a a␣ a" 'a␣' a'␣' \ \a\b\ \a\\ \a␉\
-      illegal  '␣a'                            // blanks at the ends
-      illegal  'a"b:'c"                        // the other quote opens
+      refused  ␣a a␣ a" 'a␣' a'␣' \ \a\b\ \a\\ \a␉\
+      refused  '␣a'                            // blanks at the ends
+      refused  'a"b:'c"                        // the other quote opens
   )");
 }

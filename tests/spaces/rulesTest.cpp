@@ -103,7 +103,7 @@ TEST(Rules, ofORKA) {
       both     Ia#28(3)    a#2328(3)                // would be read as an escape
       read     a#2Fb       Ia/b
       legal    a(3)(4)
-      illegal  (3)a a() a(x) a(3 a(3)) a(3␣) é
+      refused  (3)a a() a(x) a(3 a(3)) a(3␣) é
   )");
 }
 
@@ -184,7 +184,7 @@ TEST(Rules, ofKirra) {
       write    S1a\     \1a\\   // but no digit in front of it
       legal    1_2 1a2\
       legal    1\éz9            // whatever is quoted
-      illegal  1abc 1_ 1a2. 1a-2 1a\
+      illegal  1abc 1_ 1a2. 1a-2 1a!2 1a\
   )");
 }
 

@@ -40,13 +40,16 @@ inline std::string decoded(std::string text) {
 
 // A text as a cell shows it, shortened when nobody would read it to its end.
 inline std::string shown(const std::string &text) {
-  std::string result;
+  std::string result = text.empty() ? "\"\"" : "";
   for (const char c : text.substr(0, 200)) {
     char code[8];
     std::snprintf(code, sizeof code, "<%02x>", static_cast<unsigned>(static_cast<unsigned char>(c)));
-    result += c >= ' ' && c < '\x7f' ? std::string(1, c) : code;
+    std::string_view form = c > ' ' && c < '\x7f' ? std::string_view(&c, 1) : code;
+    for (const VisibleByte &byte : visibleBytes)
+      form = byte.meant == c ? byte.shown : form;
+    result += form;
   }
-  return text.size() > 200 ? result + "… (" + std::to_string(text.size()) + " bytes)" : '"' + result + '"';
+  return text.size() > 200 ? result + "… (" + std::to_string(text.size()) + " bytes)" : result;
 }
 
 // The words of a text, each of them decoded.
