@@ -241,9 +241,9 @@ TEST(PathExplode, GroupRepeats) {
     ORKA   Verilog  noRepeat  <*2>a<0:2:2>         2{a!ERROR!}}
     ORKA   Verilog  noRepeat  <*2>a<1,2*3>         2{a[1][2]!ERROR!}}
     items  ORKA     plain     Sa [3] <*2> Sb }     a<3,<*2>>b)
-    items  Verilog  plain     Sa [0:2:2] <*2> Sb   a[0]2{.b,a[2]2{.b}}
-    items  Verilog  plain     Sa [0:2:2] <*200> Sb a[0],a[2]200{.b}}  // a long repeat ends a name
-    items  Verilog  plain     Sa <*2> Sb [0:2:2]   a2{.b[0],b[2]}}
+    items  Verilog  plain     Sa [0:2:2] <*2> Sb    a[0]2{.b,a[2]2{.b}}
+    items  Verilog  plain     Sa [0:2:2] <*200> Sb  a[0],a[2]200{.b}}  // a long repeat ends a name
+    items  Verilog  plain     Sa <*2> Sb [0:2:2]    a2{.b[0],b[2]}}
     items  Verilog  explode   <*2> , Sa [1:0] } Sb [1:0]  2{}},a[1:0]}.b[1],b[0]
   )");
 }
