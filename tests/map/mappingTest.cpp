@@ -140,6 +140,7 @@ TEST(Mapping, answers) {
   for (Row &row : rowsOf(HERE, R"(
     // Refusals, with their places and reasons.
     Verilog Sdf                          ""                @0 there is no name
+    Verilog Sdf                          ␣                 @0 there is no name
     Verilog Sdf                          \u1/Pad           @7 escaped identifier has no white space at its end
     Verilog Sdf                          a.\u1/Pad         @9 escaped identifier has no white space at its end
     Verilog Sdf                          1a                @0 illegal first character
