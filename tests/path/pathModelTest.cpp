@@ -179,7 +179,7 @@ TEST(PathModel, ReleasesWhatItOwnsOnce) {
   zelPathAddTopIdent(path, "Sx", 1);
   zelPathAddLib(path, "Sx", "Sx", "Sx", 1);
   const std::uint32_t behindMark = zelPathGetLastLocation(path);
-  zelPathAddLib(path, "Sx", "Sx", nullptr, 1);       // in the chunk of the next, which is not shared
+  zelPathAddLib(path, "Sx", "Sx", nullptr, 1); // in the chunk of the next, which is not shared
   zelPathAddLib(path, owned(), owned(), owned(), 0);
   zelPathAddLib(path, nullptr, owned(), nullptr, 0);
   zelPathAddStepRange(path, 0, 27, 35); // numbers are no items
