@@ -109,28 +109,23 @@ void checkKeys(zelMappingOptions options, const std::string &text) {
             "keys are equal exactly where Idents are");
 }
 
-// Whether the target reads all that it writes for a text (here with its key, for prefixes that readers add).
+// Whether the target reads all that it writes for a text (here with its key, for prefixes that readers add): not lists,
+// repeats, blanks and libraries, which only some grammars have, indexes without a name or several of one, nor what LEF
+// and DEF write as it stands. As in the target `names`, some spaces are left out; and those whose printers are
+// another's.
 bool isReadBack(const zelMappingOptions &options, const std::string &text, const std::string &result) {
-  const std::string to = options.to;
-  const auto holds = [&text](const char *part) { return text.find(part) != std::string::npos; };
-  if (options.printFlags != 0 || text.size() > ZEL_MAX_NAME / 4 || holds("ESC_") || holds("KEYWORD_"))
-    return false;
-  // Lists, repeats, blanks and references to libraries, which only some grammars have.
-  if (text.find_first_of("{},&*( @") != std::string::npos)
-    return false;
-  // Indexes without a name, and several of one name, which are a list.
+  const auto isOneOf = [](const char *space, std::initializer_list<const char *> spaces) {
+    return std::any_of(spaces.begin(), spaces.end(), [space](const char *other) { return strcmp(space, other) == 0; });
+  };
+  const auto isControl = [](char c) { return (c >= 0 && c <= ' ') || c == 0x7f; };
   for (size_t i = 0; i < text.size(); ++i)
     if (strchr("[<(", text[i]) != nullptr && (i == 0 || strchr("/.|:%;!]>)", text[i - 1]) != nullptr))
       return false;
-  if (strcmp(options.from, "ORKA") == 0 && holds("<"))
-    return false; // where steps are lists
-  // LEF and DEF write blanks and control characters as they stand; paths cannot hold them.
-  const bool isLayout = to == "Lef" || to == "Def";
-  if (isLayout && std::any_of(result.begin(), result.end(), [](char c) { return (c >= 0 && c <= ' ') || c == 0x7f; }))
-    return false;
-  // As in the target `names`; and those whose printers are another's, or which print more than they read.
-  return to != "Kirra" && to != "Vellum" && to != "LibraryNT" && to != "Spice" && to != "VerilogAMS" &&
-         to != "FlatTessel" && to != "Spf";
+  return options.printFlags == 0 && text.size() <= ZEL_MAX_NAME / 4 && text.find("ESC_") == std::string::npos &&
+         text.find("KEYWORD_") == std::string::npos && text.find_first_of("{},&*( @") == std::string::npos &&
+         (strcmp(options.from, "ORKA") != 0 || text.find('<') == std::string::npos) && // whose steps are lists
+         !isOneOf(options.to, {"Kirra", "Vellum", "LibraryNT", "Spice", "VerilogAMS", "FlatTessel", "Spf"}) &&
+         !(isOneOf(options.to, {"Lef", "Def"}) && std::any_of(result.begin(), result.end(), isControl));
 }
 
 } // namespace

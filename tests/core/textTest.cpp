@@ -28,6 +28,7 @@ zeli::Traits traitsOf(const std::string &name) {
     traits |= isUpper || isDigit || (c >= 'a' && c <= 'z') || c == '_' ? 0 : zeli::traitOther;
     traits |= (c >= '!' && c <= '~') || c == '\0' ? 0 : zeli::traitNotGraphic; // no name holds a zero
     traits |= c == '#' || c == '%' ? zeli::traitMark : c == '\\' ? zeli::traitBackslash : 0;
+    traits |= i == 0 && (c == 'E' || c == 'K') ? zeli::traitPrefixLetter : 0; // ESC_, KEYWORD_
     traits |= i == 0 ? (isDigit ? zeli::traitDigitFirst : c == '_' ? zeli::traitUnderscoreFirst : 0) : 0;
     traits |= i + 1 == name.size() && c == '_' ? zeli::traitUnderscoreLast : 0;
   }

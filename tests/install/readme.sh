@@ -1,5 +1,4 @@
-# Does what README.md says: compiles and runs its code, runs its commands, and compares its table of spellings; and the
-# table of docs/idents.md that spells names in every mapping state.
+# Does what README.md says: compiles and runs its code, runs its commands, and compares its table of spellings.
 readme=$source/README.md
 
 # block LANGUAGE: the contents of the fenced block of that language.
@@ -59,27 +58,3 @@ while IFS= read -r spaces && IFS= read -r spelling; do
         expect "${spelling//\`/}" spell "$space"
     done
 done <cells
-
-# "from | name | to | default | MATCH | VHDL | TANDEM", the names between backquotes.
-cat >states.c <<'END'
-#include <stdio.h>
-#include <stdlib.h>
-#include <zel.h>
-
-int main(int argc, char **argv) {
-  const int32_t states[] = {ZEL_MAP_DEFAULT, ZEL_MAP_MATCH, ZEL_MAP_VHDL, ZEL_MAP_TANDEM};
-  for (int i = 0; argc == 4 && i < 4; ++i) {
-    zelSetMapState(states[i]);
-    char *name = zelMapName(argv[1], argv[3], argv[2], NULL, NULL);
-    printf(i == 0 ? "%s" : " | %s", name != NULL ? name : "refused");
-    free(name);
-  }
-  return 0;
-}
-END
-cc states.c -o states $(pkg-config --cflags --libs zel) -Wl,-rpath,"$prefix/lib"
-sed -n 's/^| \([A-Z][A-Za-z]*\) | `\(.*\)` | \([A-Z][A-Za-z]*\) | \(.*\) |$/\1\t\2\t\3\t\4/p' "$source/docs/idents.md" >rows
-[ "$(wc -l <rows)" -ge 10 ] || fail "docs/idents.md lost its names in every mapping state"
-while IFS=$'\t' read -r from name to promised; do
-    expect "${promised//\`/}" ./states "$from" "$name" "$to"
-done <rows

@@ -1,25 +1,7 @@
 // The handles: the separators in force, and which a file may redefine.
-#include "path/languages.h"
-#include "support/spaces.h"
+#include "path/pathSupport.h"
 
 namespace {
-const std::map<std::string, zelHandle> handles = {{"ORKA", zelORKAHandle},
-                                                  {"Tessel", zelTesselHandle},
-                                                  {"Kirra", zelKirraHandle},
-                                                  {"KirraHDL", zelKirraHDLHandle},
-                                                  {"Spice", zelSpiceHandle},
-                                                  {"Verilog", zelVerilogHandle},
-                                                  {"VHDL", zelVHDLHandle},
-                                                  {"VerilogAMS", zelVerilogAMSHandle},
-                                                  {"VHDL87", zelVHDL87Handle},
-                                                  {"VHDLAMS", zelVHDLAMSHandle},
-                                                  {"FlatTessel", zelFlatTesselHandle},
-                                                  {"Gcf", zelGcfHandle},
-                                                  {"Sdf", zelSdfHandle},
-                                                  {"Spf", zelSpfHandle},
-                                                  {"Spef", zelSpefHandle},
-                                                  {"Def", zelDefHandle},
-                                                  {"Lef", zelLefHandle}};
 const std::string none(4, '\0');
 
 // A new handle of a template, which is then freed.
@@ -36,55 +18,47 @@ void expectMade(zelHandle made, zelHandle builtIn, const std::string &separators
 // Pin delimiter, divider, bus brackets; flat Tessel has only these.
 TEST(Handle, takesWhatAFileRedefines) {
   for (Row &row : rowsOf(HERE, R"(
-    ORKA        //<>  fixed
-    Tessel      ||[]  fixed
-    Kirra       //[]  fixed
-    KirraHDL    //[]  fixed
-    Spice       //[]  fixed
-    Verilog     ..[]  fixed
-    VerilogAMS  //<>  fixed
-    VHDL        ::()  fixed
-    VHDL87      ::()  fixed
-    VHDLAMS     ::()  fixed
-    Gcf         ..<>  redefinable
-    Sdf         //[]  redefinable
-    Spf         :/[]  redefinable
-    Spef        //[]  redefinable
-    Def         //[]  redefinable
-    Lef         //[]  redefinable
-    FlatTessel  []    redefinable
-  )")) {
-    const std::string &name = row[0];
-    const zelHandle handle = handles.at(name);
-    const bool isFixed = row[2] == "fixed";
-    const std::string separators = std::string(4 - row[1].size(), '\0') + row[1];
-    std::string defaults = "????";
-    EXPECT_EQ(zelGetHandleDefaults(name.c_str(), defaults.data(), &defaults[1], &defaults[2], &defaults[3]), 1);
-    row.expect(separators, defaults, "the defaults");
-    EXPECT_EQ(zelGetHandleDefaults(name.c_str(), nullptr, nullptr, nullptr, nullptr), 1);
-    zelFreeHandle(handle); // to no effect
-    for (const std::string &given : {none, separators}) {
-      EXPECT_EQ(makeHandle(zelGetHandle, name, given), handle);
-      for (std::size_t i = 0; i < 4; ++i) {
-        const zelHandle made = makeHandle(zelGetHandle, name, std::string(given).replace(i, 1, "\xe9"));
-        if (isFixed || separators[i] == '\0')
-          EXPECT_EQ(made, handle) << "for separator " << i;
-        else
-          expectMade(made, handle, std::string(separators).replace(i, 1, "\xe9"));
+    ORKA VerilogAMS       //<>  fixed
+    Tessel                ||[]  fixed
+    Kirra KirraHDL Spice  //[]  fixed
+    Verilog               ..[]  fixed
+    VHDL VHDL87 VHDLAMS   ::()  fixed
+    Gcf                   ..<>  redefinable
+    Sdf Spef Def Lef      //[]  redefinable
+    Spf                   :/[]  redefinable
+    FlatTessel            []    redefinable
+  )"))
+    for (const std::string &name : wordsOf(row[0])) {
+      const zelHandle handle = pathSpaces.at(name).builtIn;
+      const bool isFixed = row[2] == "fixed";
+      const std::string separators = std::string(4 - row[1].size(), '\0') + row[1];
+      std::string defaults = "????";
+      EXPECT_EQ(zelGetHandleDefaults(name.c_str(), defaults.data(), &defaults[1], &defaults[2], &defaults[3]), 1);
+      row.expect(separators, defaults, "the defaults");
+      EXPECT_EQ(zelGetHandleDefaults(name.c_str(), nullptr, nullptr, nullptr, nullptr), 1);
+      zelFreeHandle(handle); // to no effect
+      for (const std::string &given : {none, separators}) {
+        EXPECT_EQ(makeHandle(zelGetHandle, name, given), handle);
+        for (std::size_t i = 0; i < 4; ++i) {
+          const zelHandle made = makeHandle(zelGetHandle, name, std::string(given).replace(i, 1, "\xe9"));
+          if (isFixed || separators[i] == '\0')
+            EXPECT_EQ(made, handle) << "for separator " << i;
+          else
+            expectMade(made, handle, std::string(separators).replace(i, 1, "\xe9"));
+        }
+      }
+      errno = 0;
+      failingMalloc::left = isFixed ? -1 : 0;
+      EXPECT_EQ(makeHandle(zelAllocHandle, name, none), nullptr);
+      EXPECT_EQ(errno, isFixed ? 0 : ENOMEM);
+      if (!isFixed) {
+        expectMade(makeHandle(zelAllocHandle, name, none), handle, separators);
+        expectMade(makeHandle(zelGetHandle, name, "x.()"), handle,
+                   separators[0] != '\0' ? "x.()" : none.substr(2) + "()");
+        // Not all, not none.
+        expectMade(makeHandle(zelGetHandle, name, separators.substr(0, 3) + '\0'), handle, separators);
       }
     }
-    errno = 0;
-    failingMalloc::left = isFixed ? -1 : 0;
-    EXPECT_EQ(makeHandle(zelAllocHandle, name, none), nullptr);
-    EXPECT_EQ(errno, isFixed ? 0 : ENOMEM);
-    if (!isFixed) {
-      expectMade(makeHandle(zelAllocHandle, name, none), handle, separators);
-      expectMade(makeHandle(zelGetHandle, name, "x.()"), handle,
-                 separators[0] != '\0' ? "x.()" : none.substr(2) + "()");
-      // Not all, not none.
-      expectMade(makeHandle(zelGetHandle, name, separators.substr(0, 3) + '\0'), handle, separators);
-    }
-  }
 }
 
 TEST(Handle, needsTheNameOfALanguage) {

@@ -121,43 +121,35 @@ TEST(PathMapper, ParsesAndPrints) {
 // What an allocator maps goes by the handle of the call that asked it, also what stands as it is without one.
 TEST(PathMapper, AndMapNameGoByTheHandleOfACallAround) {
   struct Call {
-    bool isPath, isShort;
     const char *from, *to, *text;
-    Result result = {};
+    Result name = {}, nameByIdent = {}, path = {}, pathByItems = {};
 
-    char *map() const {
-      if (isShort)
-        return isPath ? zelPathMapper(text, nullptr, nullptr, 0, from, to)
-                      : zelMapName(from, to, text, nullptr, nullptr);
-      if (!isPath)
-        return zelMapper(spaceOf(from)->nameToIdent, spaceOf(to)->identToName, text, nullptr, nullptr);
-      const Path path = parse(from, text);
-      return hasError(path.get()) ? nullptr : pathSpaces.at(to).print(path.get(), nullptr, 0, nullptr, nullptr);
-    }
     static void *allocate(std::uint64_t, void *context) {
       auto &self = *static_cast<Call *>(context);
-      self.result = take(self.map());
+      const auto &[from, to, text, name, nameByIdent, path, pathByItems] = self;
+      self.name = take(zelMapName(from, to, text, nullptr, nullptr));
+      self.nameByIdent = take(zelMapper(spaceOf(from)->nameToIdent, spaceOf(to)->identToName, text, nullptr, nullptr));
+      self.path = take(zelPathMapper(text, nullptr, nullptr, 0, from, to));
+      const Path parsed = parse(from, text);
+      if (!hasError(parsed.get()))
+        self.pathByItems = take(pathSpaces.at(to).print(parsed.get(), nullptr, 0, nullptr, nullptr));
       return nullptr;
     }
   };
   const MapState state(ZEL_MAP_DEFAULT);
-  for (const auto &[name, write] : {std::pair("Sdf", &zelIdentToSdfWithHandle),
-                                    {"Spf", zelIdentToSpfWithHandle},
-                                    {"Spef", zelIdentToSpefWithHandle},
-                                    {"Gcf", zelIdentToGcfWithHandle},
-                                    {"Lef", zelIdentToLefWithHandle},
-                                    {"Def", zelIdentToDefWithHandle}}) {
-    const Handle handle(makeHandle(zelGetHandle, name, "xxxx"));
+  for (const auto &[space, write] : {std::pair("Sdf", &zelIdentToSdfWithHandle),
+                                     {"Spf", zelIdentToSpfWithHandle},
+                                     {"Spef", zelIdentToSpefWithHandle},
+                                     {"Gcf", zelIdentToGcfWithHandle},
+                                     {"Lef", zelIdentToLefWithHandle},
+                                     {"Def", zelIdentToDefWithHandle}}) {
+    const Handle handle(makeHandle(zelGetHandle, space, "xxxx"));
     for (const char *const text : {"axb", "ab", "x", "a\\xb"})
-      for (const auto &[from, to] : {std::pair("Verilog", name), {name, "Verilog"}, {name, name}})
-        for (const bool isPath : {false, true}) {
-          Call calls[] = {{isPath, true, from, to, text}, {isPath, false, from, to, text}};
-          for (Call &call : calls)
-            write("Sa", Call::allocate, &call, handle.get());
-          EXPECT_EQ(calls[0].result, calls[1].result) << from << " " << to << " " << text << isPath;
-          const bool isQuoted = !isPath && std::string(text) == "axb" && to != std::string("Verilog") && from != to;
-          EXPECT_TRUE(!isQuoted || calls[0].result == "a\\xb") << name;
-        }
+      for (Call call : {Call{"Verilog", space, text}, {space, "Verilog", text}, {space, space, text}}) {
+        write("Sa", Call::allocate, &call, handle.get());
+        EXPECT_TRUE(call.name == call.nameByIdent && call.path == call.pathByItems) << call.from << call.to << text;
+        EXPECT_TRUE(text != std::string("axb") || call.from == space || call.name == "a\\xb") << space;
+      }
   }
 }
 

@@ -8,24 +8,18 @@ namespace {
 // a marker and what it marks.
 TEST(PathModel, ItemsAreStoredAsKindAndNumbers) {
   for (Row &row : rowsOf(HERE, R"(
-    [-4]                   2 128
-    [123]                  2 255
     [124]                  3 188 155 140
     [-5]                   3 187 154 140
     [-200000]              3 128 128 128
-    [1897151]              3 255 255 255
     [-4:123]               4 128 255
     [0:124]                5 192 154 140 188 155 140
     [0:6:2]                6 132 138 134               [0:6:2] ?  // the walk trips over its step
-    [0:0:124]              7 192 154 140 192 154 140 188 155 140
-    <*2>                   8 134
     <*124>                 9 188 155 140
     { , }                  11 10 12
     ^Sa Sb                 18 27 28                    // a mark in front; the number of a slot is in the kind
     @Sl.Sc @Sl.Sc(Sv)      17 43 17 53                 // two slots, then three
     // What no longer fits goes to the next chunk: 19 bytes, eight slots.
     [0] [1] [2] [3] [4] [5] [6] [0:200]           2 132 2 133 2 134 2 135 2 136 2 137 2 138 | 5 192 154 140 136 156 140
-    [0] [0] [0] [0] [0] [0] [0] [0] [0:1]         2 132 2 132 2 132 2 132 2 132 2 132 2 132 2 132 4 132 133
     Sa Sa Sa Sa Sa Sa Sa Sa Sa Sa @Sl.Sc(Sv) @Sl.Sc  27 28 29 30 31 32 33 34 | 27 28 17 53 17 48
     , , , , , , , , , , , , , , , , , , ^Sa       10 10 10 10 10 10 10 10 10 10 10 10 10 10 10 10 10 10 | 18 27
   )")) {
@@ -34,7 +28,7 @@ TEST(PathModel, ItemsAreStoredAsKindAndNumbers) {
     row.expect(row[2].empty() ? row[0] : row[2], itemsOf(path.get()), "the walk");
     row.expect(row[0].find('@') != std::string::npos ? "hierarchy" : "", flagsOf(path.get()), "the flags");
   }
-  for (const std::string &outside : wordsOf("[-200001] [1897152] [-2147483648] [1897152:0] [0:0:-200001] <*1897152>")) {
+  for (const std::string &outside : wordsOf("[-200001] [1897152] [-2147483648] [0:0:-200001] <*1897152>")) {
     errno = 0;
     const Path path = built("Sa " + outside + " Sb");
     EXPECT_EQ(errno, EINVAL) << outside;
@@ -90,14 +84,10 @@ TEST(PathModel, Locations) {
     short  256         1  index 257
     short  257         1  ident 259
     short  259         1  end 456
-    short  260         1  end 456
-    short  265         4  end 456    // capped at the bytes of the chunk
-    short  512         4  end 456    // no such chunk
     short  4294967295  4  end 456
     short  3           0  end 456    // no chunk
     long   262         1  ident 263
     long   263         1  ident 512  // on to the next chunk
-    long   512         1  ident 513
   )")) {
     const zelPath path = row[0] == "short" ? shortPath.get() : longPath.get();
     row.expect(row[2], std::to_string(zelPathSetLocation(path, static_cast<std::uint32_t>(std::stoul(row[1])))));
@@ -105,7 +95,7 @@ TEST(PathModel, Locations) {
     row.expect(row[3], items.at(item) + ' ' + std::to_string(zelPathGetLocation(path)));
   }
   zelPath found = nullptr;
-  EXPECT_EQ(internals::lastItem(longPath.get(), internals::nextChunk(longPath.get()), &found), 27 + 7);
+  EXPECT_EQ(zeliPrevItem(longPath.get(), longPath->next, 0, &found), 27 + 7);
   EXPECT_EQ(found, longPath.get());
 }
 
@@ -127,8 +117,6 @@ TEST(PathModel, RemovalOfIndexesAndLevels) {
     // items    the index  the level
     Sa          25 1       chunk 0
     Sa [3]      chunk 2    -17 2
-    Sa [300]    chunk 4    -16 4
-    Sa [3:0]    chunk 3    -15 3
     Sa [0:6:2]  chunk 4    -13 4
     Sa <*2>     6 3        -11 3
     Sa }        10 2       -7 2
@@ -139,7 +127,7 @@ TEST(PathModel, RemovalOfIndexesAndLevels) {
       const Path path = built(row[0]);
       const intptr_t result = remove(path.get());
       const bool isChunk = result == reinterpret_cast<intptr_t>(path.get());
-      return (isChunk ? "chunk" : std::to_string(result)) + ' ' + std::to_string(internals::bytesUsed(path.get()));
+      return (isChunk ? "chunk" : std::to_string(result)) + ' ' + std::to_string(path->used);
     };
     row.expect(row[1], removed(zelPathRemoveIndex), "zelPathRemoveIndex");
     row.expect(row[2], removed(zelPathRemoveLevel), "zelPathRemoveLevel");
@@ -148,36 +136,21 @@ TEST(PathModel, RemovalOfIndexesAndLevels) {
   zelPathRemoveIndex(cut.get());
   EXPECT_EQ(itemsOf(cut.get()), "[0:6:-1]"); // where a byte of a number is gone
   const Path path = built(repeated("Sa ", 9));
-  EXPECT_EQ(zelPathRemoveLevel(path.get()), reinterpret_cast<intptr_t>(internals::nextChunk(path.get())));
+  EXPECT_EQ(zelPathRemoveLevel(path.get()), reinterpret_cast<intptr_t>(path->next));
   EXPECT_EQ(itemsOf(path.get()), repeated("Sa ", 7) + "Sa");
   zelPathAddIdent(path.get(), "Sb", 1); // into the chunk that was emptied
   EXPECT_EQ(internals::bytesOf(path.get()), "27 28 29 30 31 32 33 34 | 27");
 }
 
-// Also where the chunk that the walk stands on is taken from under it.
-TEST(PathModel, GettersLeaveTheWalkAlone) {
-  const auto walk = [](bool reads) {
-    const Path path = built(repeated("Sa ", 10));
-    zelPathSetLocation(path.get(), 513);
-    zelFreePathFromLocation(path.get(), 8, nullptr, nullptr);
-    const char *end = nullptr;
-    if (reads)
-      for (int i = 0; i < 2; ++i) {
-        zelPathGetIndex(path.get());
-        zelPathGetRepeat(path.get());
-        zelPathGetRange(path.get(), nullptr, nullptr);
-        zelPathGetStepRange(path.get(), nullptr, nullptr, nullptr);
-        zelPathGetIdent(path.get());
-        zelPathGetString(path.get(), &end);
-        zelPathGetLib(path.get(), &end, &end, &end);
-        zelPathGetFlag(path.get());
-        zelPathGetLocation(path.get());
-      }
-    zelPathAddIdent(path.get(), "Sb", 1);
-    const int item = zelPathGenNext(path.get());
-    return std::to_string(item) + ' ' + std::to_string(zelPathGetLocation(path.get()));
-  };
-  EXPECT_EQ(walk(true), walk(false));
+// The chunk that the walk stands on is taken from under it.
+TEST(PathModel, EndsTheWalkWhereItsChunkIsGone) {
+  const Path path = built(repeated("Sa ", 10));
+  zelPathSetLocation(path.get(), 513);
+  zelFreePathFromLocation(path.get(), 8, nullptr, nullptr);
+  EXPECT_EQ(zelPathGetIndex(path.get()), -1);
+  zelPathAddIdent(path.get(), "Sb", 1);
+  EXPECT_EQ(zelPathGenNext(path.get()), ZEL_ITEM_END);
+  EXPECT_EQ(zelPathGetLocation(path.get()), 456U); // nowhere
 }
 
 TEST(PathModel, RemovalFromALocation) {
@@ -191,7 +164,7 @@ TEST(PathModel, RemovalFromALocation) {
     zelPathAddIdent(path, zelNewString("Sb", Memory::alloc, &memory), 0);
     EXPECT_EQ(itemsOf(path), repeated("Sa ", static_cast<std::size_t>(left)) + "Sb");
     zelFreePathFromLocation(path, 18, Memory::free, &memory); // behind the head's items: only what follows goes
-    EXPECT_EQ(internals::bytesUsed(path), std::min(left, 6)) << location; // its slots stay taken
+    EXPECT_EQ(path->used, std::min(left, 6)) << location;     // its slots stay taken
     zelFreePath(path, Memory::free, &memory);
     EXPECT_EQ(memory.live, 0);
   }
@@ -206,13 +179,14 @@ TEST(PathModel, ReleasesWhatItOwnsOnce) {
   zelPathAddTopIdent(path, "Sx", 1);
   zelPathAddLib(path, "Sx", "Sx", "Sx", 1);
   const std::uint32_t behindMark = zelPathGetLastLocation(path);
-  zelPathAddLib(path, owned(), owned(), owned(), 0); // not shared, unlike the last
+  zelPathAddLib(path, "Sx", "Sx", nullptr, 1); // in the chunk of the next, which is not shared
+  zelPathAddLib(path, owned(), owned(), owned(), 0);
   zelPathAddLib(path, nullptr, owned(), nullptr, 0);
   zelPathAddStepRange(path, 0, 27, 35); // numbers are no items
   zelPathAddStepRange(path, 19, 200, 43);
   const int all = memory.live;
-  const zelPath second = internals::nextChunk(path);
-  const auto end = static_cast<std::uint32_t>(internals::bytesUsed(second));
+  const zelPath second = path->next;
+  const auto end = static_cast<std::uint32_t>(second->used);
   zelFreePathFromLocation(second, end, Memory::free, &memory); // nothing is left to release there
   EXPECT_EQ(memory.live, all);
   zelPathRemoveFromLocation(path, behindMark, Memory::free, &memory);

@@ -20,20 +20,14 @@ std::vector<int> flagsIn(const std::string &words) {
   return alternatives;
 }
 
-// Texts and how they are printed, under headings like "from ORKA to Verilog Kirra, explode"; from items, as itemsOf
-// shows them.
+// From a language, or from items as itemsOf shows them, to others, under which flags; a text, and what is printed.
 void expectPrinted(const char *file, int line, const char *table) {
-  for (Row &row : rowsOf(file, line, table)) {
-    const std::size_t comma = std::min(row.heading.find(", "), row.heading.size());
-    const std::vector<std::string> words = wordsOf(row.heading.substr(0, comma));
-    const std::string flagWords = comma != row.heading.size() ? row.heading.substr(comma + 2) : "";
-    const std::string &source = words.at(1);
-    for (const std::string &target : std::vector<std::string>(words.begin() + 3, words.end()))
-      for (const int flags : flagsIn(flagWords))
-        row.expect(row[1],
-                   source == "items" ? printed(built(row[0]), target, flags) : mapped(source, row[0], target, flags),
+  for (Row &row : rowsOf(file, line, table))
+    for (const std::string &target : wordsOf(row[1]))
+      for (const int flags : flagsIn(row[2]))
+        row.expect(row[4],
+                   row[0] == "items" ? printed(built(row[3]), target, flags) : mapped(row[0], row[3], target, flags),
                    target + ", flags " + std::to_string(flags));
-  }
 }
 
 // One path in every target: ORKA, VHDL, those with bars, those with slashes, GCF, SPICE, and the Verilog group.
@@ -56,69 +50,44 @@ TEST(PathPrint, EveryTarget) {
 
 TEST(PathPrint, ListsGroupsAndRepeats) {
   expectPrinted(HERE, R"(
-    from Verilog to Verilog Kirra KirraHDL:
-      {2{a,b}}            {2{a,b}}
-      {2{3{a}}}           {2{3{a}}}
-      a[3]b               a[3].b
-      a[3]{b}             a[3]{.b}
-      {a}b                {a}.b
-      {}                  {}
-      {,a}                {,a}
-      a[-200000:1897151]  a[-200000:1897151]
-    from Verilog to Sdf Lef:
-      {2{a,b}}   {{2{a,b}}}
-      {2{3{a}}}  {{2{{3{a}}}}
-      {3a}       {a}
-    from Verilog to ORKA:
-      {2{a}}   (<*2>(a))
-      a[3]{b}  a<3,(>b)
-      a[3]b    a<3>/b
-      a[-5].b  a<-5>/b
-      a[-1:1]  a<-1:1>
-    from Verilog to VHDL:
-      a[3:3]    a(3 to 3)
-      a[-1:-2]  a(-1 downto -2)
-    from ORKA to Verilog, group:
-      a         a
-      a,b       {a,b}
-      (a,b)     {{a,b}}
-      a<0:2:2>  {a[0],a[2]}
-      <*2>a     {2{a}}}
-      a<0:1,3>  a[0:1],a[3]
-    from ORKA to Verilog, group explode:
-      a<1:0>  a[1],a[0]
-      a<1*1>  {a[1],a[1]}
-    from ORKA to Kirra KirraHDL, group:
-      a      a}
-      a,b    a,b}
-      <*2>a  2{a}}}
-    from ORKA to VHDL, group:
-      a,b         a&&b
-      a<0:2:2>,b  a(0)&&a(2)&&b
-    from ORKA to Tessel FlatTessel Spice Lef Def Sdf Spf Spef Gcf ORKA, group:
-      a    a
-      a,b  a,b
-    from ORKA to ORKA, group:
-      a<0:6:2>        a<0:6:2>
-      a<0:3*2>        a<0:3*2>
-      a<1,2:3,0:6:2>  a<1,2:3,0:6:2>
-      (a<3>,b<1>)     (a<3>,b<1>)
-      a<3>,b          a<3>,b
-      a<(0,2)>        a<(,0,2)>
-      a<((1)2)>       a<((,1),2)>
-      a<(1)*3>/b      a<(,1)*3>/b
-      <*2>/a          <*2>/a
-      (/a)            (/a)
-      a<0:5:0>        a<0:5:0>
-    from ORKA to ORKA, top:
-      a          /a
-      /a/b<3:0>  /a/b<3:0>
-      a,b<1>     /a,/b<1>
-    from VHDL to VHDL, explode:
-      a(1 downto 0),b     a(1),a(0)&&b
-      @l.c:a(1 downto 0)  @l.c:a(1),@l.c:a(0)
-    from VHDL to VHDL, explode group:
-      a(1 downto 0)  a(1)&&a(0)
+    Verilog  Verilog Kirra KirraHDL  plain          {2{a,b}}            {2{a,b}}
+    Verilog  Verilog Kirra KirraHDL  plain          a[3]b               a[3].b
+    Verilog  Verilog Kirra KirraHDL  plain          a[3]{b}             a[3]{.b}
+    Verilog  Verilog Kirra KirraHDL  plain          {a}b                {a}.b
+    Verilog  Verilog Kirra KirraHDL  plain          {}                  {}
+    Verilog  Verilog Kirra KirraHDL  plain          {,a}                {,a}
+    Verilog  Verilog Kirra KirraHDL  plain          a[-200000:1897151]  a[-200000:1897151]
+    Verilog  Sdf Lef                 plain          {2{a,b}}            {{2{a,b}}}
+    Verilog  Sdf Lef                 plain          {2{3{a}}}           {{2{{3{a}}}}
+    Verilog  Sdf Lef                 plain          {3a}                {a}
+    Verilog  ORKA                    plain          {2{a}}              (<*2>(a))
+    Verilog  ORKA                    plain          a[3]{b}             a<3,(>b)
+    Verilog  ORKA                    plain          a[-1:1]             a<-1:1>
+    Verilog  VHDL                    plain          a[3:3]              a(3 to 3)
+    Verilog  VHDL                    plain          a[-1:-2]            a(-1 downto -2)
+    ORKA     Verilog                 group          a                   a
+    ORKA     Verilog                 group          a,b                 {a,b}
+    ORKA     Verilog                 group          (a,b)               {{a,b}}
+    ORKA     Verilog                 group          a<0:2:2>            {a[0],a[2]}
+    ORKA     Verilog                 group          <*2>a               {2{a}}}
+    ORKA     Verilog                 group          a<0:1,3>            a[0:1],a[3]
+    ORKA     Verilog                 group explode  a<1:0>              a[1],a[0]
+    ORKA     Verilog                 group explode  a<1*1>              {a[1],a[1]}
+    ORKA     Kirra KirraHDL          group          a,b                 a,b}
+    ORKA     Kirra KirraHDL          group          <*2>a               2{a}}}
+    ORKA     VHDL                    group          a<0:2:2>,b          a(0)&&a(2)&&b
+    ORKA     Tessel FlatTessel Spice Lef Def Sdf Spf Spef Gcf ORKA  group          a                   a
+    ORKA     ORKA                    group          a<1,2:3,0:6:2>      a<1,2:3,0:6:2>
+    ORKA     ORKA                    group          (a<3>,b<1>)         (a<3>,b<1>)
+    ORKA     ORKA                    group          a<(0,2)>            a<(,0,2)>
+    ORKA     ORKA                    group          a<(1)*3>/b          a<(,1)*3>/b
+    ORKA     ORKA                    group          <*2>/a              <*2>/a
+    ORKA     ORKA                    group          a<0:5:0>            a<0:5:0>
+    ORKA     ORKA                    top            /a/b<3:0>           /a/b<3:0>
+    ORKA     ORKA                    top            a,b<1>              /a,/b<1>
+    VHDL     VHDL                    explode        a(1 downto 0),b     a(1),a(0)&&b
+    VHDL     VHDL                    explode        @l.c:a(1 downto 0)  @l.c:a(1),@l.c:a(0)
+    VHDL     VHDL                    explode group  a(1 downto 0)       a(1)&&a(0)
   )");
 }
 
@@ -126,73 +95,39 @@ TEST(PathPrint, ListsGroupsAndRepeats) {
 // them.
 TEST(PathPrint, Names) {
   expectPrinted(HERE, R"(
-    from Tessel to Tessel FlatTessel:
-      |top|a[3]  |top|a[3]
-      a|b        a|b
-    from Tessel to Tessel, explode:
-      ||a[1:0]  |a[1],|a[0]
-    from Tessel to Sdf Spf Spef Lef Def:
-      |top|a[3]  /top/a[3]
-    from Tessel to Verilog Kirra KirraHDL Spice:
-      |top|a[3]  top.a[3]
-    from Tessel to Lef(.<>) Def(.<>) Sdf(.<>) Spf(.<>) Spef(.<>) Gcf(.<>), explode:
-      |a|b<[1:0]  .a.b\<<1>,.a.b\<<0>
-    from Sdf(x) to Lef:
-      axb\/c  a/b\/c
-    from Sdf to Gcf:
-      /a    .a
-      /[3]  <3>
-    from Sdf to ORKA VHDL:
-      /a  a
-    from Sdf to Sdf:
-      /  ""
-    from Sdf to Verilog:
-      a.b    ""
-      a.b/c  .c
-    from VHDL to ORKA Sdf Verilog:
-      @l.c(v):a  a
-      @c         ""
-    from VHDL to Verilog:
-      :Top:\a b\(3)  top.\a#20b [3]
-    from VHDL to VHDL:
-      @l.c(v)   @l.c(v)
-      @l.c      @l.c
-      @c        @c
-      a@l.c(v)  a@l.c(v)
-      @l.c:a    @l.c:a
-      a&&@c     a&&@c
-    from Verilog to VHDL:
-      \a+b .A.c  :\a+b\:\A\:c
-    from Spice to Verilog:
-      a_3.b  a_3.b
-      a[3]   \a[3]␣
-    from Spice to Tessel:
-      a[3]  a\[3\]
-    from Verilog to Kirra:
-      \Table[0][2] .x  Table\[0\]\[2\].x
-    from Kirra to Verilog:
-      Table\[0\]\[2\].x  \Table[0][2] .x
-    from Kirra to Kirra:
-      a\.b.c  a\.b.c
-    from KirraHDL to KirraHDL:
-      \a+b .c  \a+b .c
-    from VHDL87 to VHDL:
-      quantity:b  :quantity:b  // accepted and converted by the words of VHDL87
-    from VHDLAMS to VHDL:
-      quantity:b  ::b  // accepted, but does not convert by its own words
-    from VerilogAMS to VHDL:
-      analog.b  ::b  // the same
-    from items to Verilog:
-      Sa - Sb  a..b
-    from items to ORKA:
-      Sa S Sb  a//b
-    from items to Sdf:
-      Xa [3] Sb  [3]/b
-    from items to VHDL:
-      - Sb           b
-      @Sl.Sc(Sv) Sa  @l.c(v):a
-    from items to Verilog ORKA:
-      @Sl.Sc Sa  a
+    Tessel      Tessel FlatTessel     plain    |top|a[3]          |top|a[3]
+    Tessel      Sdf Spf Spef Lef Def  plain    |top|a[3]          /top/a[3]
+    Tessel      Verilog Kirra KirraHDL Spice  plain    |top|a[3]          top.a[3]
+    Sdf(x)      Lef                   plain    axb\/c             a/b\/c
+    Sdf         Gcf                   plain    /a                 .a
+    Sdf         Gcf                   plain    /[3]               <3>
+    Sdf         ORKA VHDL             plain    /a                 a
+    Sdf         Sdf                   plain    /                  ""
+    Sdf         Verilog               plain    a.b                ""
+    VHDL        ORKA Sdf Verilog      plain    @l.c(v):a          a
+    VHDL        ORKA Sdf Verilog      plain    @c                 ""
+    VHDL        Verilog               plain    :Top:\a b\(3)      top.\a#20b [3]
+    VHDL        VHDL                  plain    @l.c(v)            @l.c(v)
+    VHDL        VHDL                  plain    @l.c               @l.c
+    VHDL        VHDL                  plain    @c                 @c
+    VHDL        VHDL                  plain    @l.c:a             @l.c:a
+    VHDL        VHDL                  plain    a&&@c              a&&@c
+    Verilog     VHDL                  plain    \a+b .A.c          :\a+b\:\A\:c
+    Spice       Verilog               plain    a[3]               \a[3]␣
+    Spice       Tessel                plain    a[3]               a\[3\]
+    Kirra       Verilog               plain    Table\[0\]\[2\].x  \Table[0][2] .x
+    Kirra       Kirra                 plain    a\.b.c             a\.b.c
+    VHDL87      VHDL                  plain    quantity:b         :quantity:b  // accepted and converted by the words of VHDL87
+    VHDLAMS     VHDL                  plain    quantity:b         ::b  // accepted, but does not convert by its own words
+    VerilogAMS  VHDL                  plain    analog.b           ::b  // the same
+    items       Verilog               plain    Sa - Sb            a..b
+    items       ORKA                  plain    Sa S Sb            a//b
+    items       Sdf                   plain    Xa [3] Sb          [3]/b
+    items       VHDL                  plain    - Sb               b
+    items       Verilog ORKA          plain    @Sl.Sc Sa          a
+    items       VHDL                  plain    @Sl.Sc(Sv) Sa      @l.c(v):a
+    Tessel      Tessel                explode  ||a[1:0]           |a[1],|a[0]
+    Tessel      Lef(.<>) Def(.<>) Sdf(.<>) Spf(.<>) Spef(.<>) Gcf(.<>)  explode  |a|b<[1:0]         .a.b\<<1>,.a.b\<<0>
   )");
   const Path path = built("Sa");
   zelPathAddLib(path.get(), nullptr, nullptr, nullptr, 1);
@@ -226,77 +161,49 @@ TEST(PathPrint, NothingAndTooMuch) {
 // behind the first of an ORKA path begin at the identifier, without the mark.
 TEST(PathExplode, Enumerations) {
   expectPrinted(HERE, R"(
-    from ORKA to Verilog, plain or explode:
-      a<0:6:2>           a[0],a[2],a[4],a[6]
-      a<6:0:2>           a[6],a[4],a[2],a[0]
-      a<0:5:2>           a[0],a[2],a[4]
-      a<5:0:2>           a[5],a[3],a[1]
-      a<3:3:2>           a[3]
-      a<0:1:5>           a[0]
-      a<0:300:150>       a[0],a[150],a[300]
-      a<(0,2,4)>         a[0],a[2],a[4]
-      a<(1)>             a[1]
-      a<1,0:4:2>         a[1],a[0],a[2],a[4]
-      a<(1)(2)>          a[1],a[2]
-      a<((1,2)3)>        a[1],a[2],a[3]
-      a<(0,1)>/b<(2,3)>  a[0].b[2],a[0].b[3],a[1].b[2],a[1].b[3]
-      a<0*2>             a[0],a[0],a[0]
-      a<3*0>             a[3]
-      a<0:1*1>           a[0],a[1],a[0],a[1]
-      a<0:2:2*1>         a[0],a[2],a[0],a[2]
-      a<(0,1)*1>         a[0],a[1],a[0],a[1]
-      a<(0:1*1)>         a[0],a[1],a[0],a[1]
-      a<3,1*1,4>         a[3],a[1],a[1],a[4]
-      a<1,2>,b<3,4>      a[1],a[2],b[3],b[4]
-      a<((0,1)*1(2))*1>  a[0],a[1],a[0],a[1],a[2],a[0],a[1],a[0],a[1],a[2]
-    from ORKA to Verilog:
-      a<1,2:3>         a[1],a[2:3]
-      a<1*1,3>         a[1][3],a[1][3]
-      a<1:0>/b<0:2:2>  a[1:0].b[0],a[1:0].b[2]
-    from ORKA to Verilog, explode:
-      a<1,2:3>       a[1],a[2],a[3]
-      a<(1:0,5)*1>   a[1],a[0],a[5],a[1],a[0],a[5]
-      a<(0:1*1,5)>   a[0],a[1],a[0],a[1],a[5]
-      a<1:0>/b<2,3>  a[1].b[2],a[1].b[3],a[0].b[2],a[0].b[3]
-    from ORKA to ORKA, noRepeat:
-      a<0*2>          a<0>,a<0>,a<0>
-      a<0:1*1>        a<0>,a<1>,a<0>,a<1>
-      <*200>a         <*200>a
-      a<1,2>          a<1,2>
-      <*2>a<0*1>      <*2>a<0*1>
-      <*2>a<0*200>/b  <*2>a<0*200>/b
-      a<0:6:2>        a<0:6:2>
-      a<1:0>          a<1:0>
-      a<0*1>,b        a<0>,a<0>,b
-    from ORKA to ORKA, explode noRepeat:
-      a<0:2:2>      a<0>,a<2>
-      a<(0,2)>      a<0>,a<2>
-      a<1:0>/b      a<1>/b,a<0>/b
-      (a<1:0>,b)    (a<1>,a<0>,b)
-      <*2>(a<1:0>)  <*2>(a<1:0>)
-      /a<1:0>       /a<1>,a<0>
-    from ORKA to ORKA, explode top:
-      /a<1:0>  /a<1>,/a<0>
-    from Verilog to Verilog, explode:
-      a[3:0]             a[3],a[2],a[1],a[0]
-      a[5:5]             a[5]
-      a[-1:1]            a[-1],a[0],a[1]
-      a.b[1:0],c         a.b[1],a.b[0],c
-      a[122:125]         a[122],a[123],a[124],a[125]
-      a[1:0].b[5:4]      a[1].b[5],a[1].b[4],a[0].b[5],a[0].b[4]
-      {a[1:0],b[1:0].c}  {a[1],a[0],b[1].c,b[0].c}
-    from Gcf to Verilog:
-      a<1><2>      a[1],a[2]
-      a<1:0><5:4>  a[1:0],a[5:4]
-    from Gcf to Verilog, explode:
-      a<1:0><5:4>        a[1],a[0],a[5],a[4]
-      a<1><2>.b<3:4><5>  a[1].b[3],a[1].b[4],a[1].b[5],a[2].b[3],a[2].b[4],a[2].b[5]
-      <3:0>              [3],[2],[1],[0]
-      <1:0>.a<1:0>       [1]a[1],[1]a[0],[0]a[1],[0]a[0]
-    from items to Verilog, explode:
-      Sa , [1:0] Sb            a,a,[1:0]b
-      Sa , [1:0] Sb [1:0]      a,a,a,a,[1:0]b[1:0]
-      Sa , [3] [1:0] Sb [1:0]  a,a,a,[3][1:0]b[1],b[0]
+    ORKA     Verilog  plain or explode  a<0:6:2>                 a[0],a[2],a[4],a[6]
+    ORKA     Verilog  plain or explode  a<6:0:2>                 a[6],a[4],a[2],a[0]
+    ORKA     Verilog  plain or explode  a<0:5:2>                 a[0],a[2],a[4]
+    ORKA     Verilog  plain or explode  a<3:3:2>                 a[3]
+    ORKA     Verilog  plain or explode  a<0:1:5>                 a[0]
+    ORKA     Verilog  plain or explode  a<0:300:150>             a[0],a[150],a[300]
+    ORKA     Verilog  plain or explode  a<(0,2,4)>               a[0],a[2],a[4]
+    ORKA     Verilog  plain or explode  a<(1)>                   a[1]
+    ORKA     Verilog  plain or explode  a<(1)(2)>                a[1],a[2]
+    ORKA     Verilog  plain or explode  a<(0,1)>/b<(2,3)>        a[0].b[2],a[0].b[3],a[1].b[2],a[1].b[3]
+    ORKA     Verilog  plain or explode  a<0*2>                   a[0],a[0],a[0]
+    ORKA     Verilog  plain or explode  a<3*0>                   a[3]
+    ORKA     Verilog  plain or explode  a<0:1*1>                 a[0],a[1],a[0],a[1]
+    ORKA     Verilog  plain or explode  a<(0,1)*1>               a[0],a[1],a[0],a[1]
+    ORKA     Verilog  plain or explode  a<(0:1*1)>               a[0],a[1],a[0],a[1]
+    ORKA     Verilog  plain or explode  a<1,2>,b<3,4>            a[1],a[2],b[3],b[4]
+    ORKA     Verilog  plain or explode  a<((0,1)*1(2))*1>        a[0],a[1],a[0],a[1],a[2],a[0],a[1],a[0],a[1],a[2]
+    ORKA     Verilog  plain             a<1*1,3>                 a[1][3],a[1][3]
+    ORKA     Verilog  plain             a<1:0>/b<0:2:2>          a[1:0].b[0],a[1:0].b[2]
+    ORKA     Verilog  explode           a<1,2:3>                 a[1],a[2],a[3]
+    ORKA     Verilog  explode           a<(0:1*1,5)>             a[0],a[1],a[0],a[1],a[5]
+    ORKA     ORKA     noRepeat          a<0*2>                   a<0>,a<0>,a<0>
+    ORKA     ORKA     noRepeat          a<0:1*1>                 a<0>,a<1>,a<0>,a<1>
+    ORKA     ORKA     noRepeat          <*200>a                  <*200>a
+    ORKA     ORKA     noRepeat          <*2>a<0*200>/b           <*2>a<0*200>/b
+    ORKA     ORKA     noRepeat          a<1:0>                   a<1:0>
+    ORKA     ORKA     noRepeat          a<0*1>,b                 a<0>,a<0>,b
+    ORKA     ORKA     explode noRepeat  a<0:2:2>                 a<0>,a<2>
+    ORKA     ORKA     explode noRepeat  (a<1:0>,b)               (a<1>,a<0>,b)
+    ORKA     ORKA     explode noRepeat  <*2>(a<1:0>)             <*2>(a<1:0>)
+    ORKA     ORKA     explode noRepeat  /a<1:0>                  /a<1>,a<0>
+    ORKA     ORKA     explode top       /a<1:0>                  /a<1>,/a<0>
+    Verilog  Verilog  explode           a[3:0]                   a[3],a[2],a[1],a[0]
+    Verilog  Verilog  explode           a[5:5]                   a[5]
+    Verilog  Verilog  explode           a[-1:1]                  a[-1],a[0],a[1]
+    Verilog  Verilog  explode           a.b[1:0],c               a.b[1],a.b[0],c
+    Verilog  Verilog  explode           {a[1:0],b[1:0].c}        {a[1],a[0],b[1].c,b[0].c}
+    Gcf      Verilog  plain             a<1><2>                  a[1],a[2]
+    Gcf      Verilog  explode           a<1:0><5:4>              a[1],a[0],a[5],a[4]
+    Gcf      Verilog  explode           a<1><2>.b<3:4><5>        a[1].b[3],a[1].b[4],a[1].b[5],a[2].b[3],a[2].b[4],a[2].b[5]
+    Gcf      Verilog  explode           <1:0>.a<1:0>             [1]a[1],[1]a[0],[0]a[1],[0]a[0]
+    items    Verilog  explode           Sa , [1:0] Sb [1:0]      a,a,a,a,[1:0]b[1:0]
+    items    Verilog  explode           Sa , [3] [1:0] Sb [1:0]  a,a,a,[3][1:0]b[1],b[0]
   )");
   EXPECT_EQ(mapped("ORKA", "a<0*124>", "Verilog"), "a[0]" + repeated(",a[0]", 124));
 }
@@ -326,23 +233,18 @@ TEST(PathExplode, EveryValueUpToTheLimit) {
 // Groups stay as they are, and so does what is in them when they are to be expanded.
 TEST(PathExplode, GroupRepeats) {
   expectPrinted(HERE, R"(
-    from ORKA to Verilog, explode or explode noRepeat:
-      <*2>a<1:0>,b<1:0>    2{a[1:0]}},b[1],b[0]
-      <*2>(a<1:0>,b<1:0>)  2{a[1:0],b[1],b[0]}
-      <*2>a<0:2:2>         2{a!ERROR!}}
-    from ORKA to Verilog:
-      <*2>(a<0:2:2>)  2{a[0],a[2]}
-      <*2>a<0:2:2>    2{a[0],a[2]}}
-    from ORKA to Verilog, noRepeat:
-      <*2>a<0:2:2>  2{a!ERROR!}}
-      <*2>a<1,2*3>  2{a[1][2]!ERROR!}}
-    from items to ORKA:
-      Sa <*2> Sb        a,<*2>b
-      Sa [3] <*2> Sb }  a<3,<*2>>b)
-    from items to Verilog:
-      Sa <*2> Sb [0:2:2]  a2{.b[0],b[2]}}
-    from items to Verilog, explode:
-      <*2> , Sa [1:0] } Sb [1:0]  2{}},a[1:0]}.b[1],b[0]
+    ORKA   Verilog  explode or explode noRepeat  <*2>a<1:0>,b<1:0>    2{a[1:0]}},b[1],b[0]
+    ORKA   Verilog  explode or explode noRepeat  <*2>(a<1:0>,b<1:0>)  2{a[1:0],b[1],b[0]}
+    ORKA   Verilog  explode or explode noRepeat  <*2>a<0:2:2>         2{a!ERROR!}}
+    ORKA   Verilog  plain     <*2>(a<0:2:2>)       2{a[0],a[2]}
+    ORKA   Verilog  plain     <*2>a<0:2:2>         2{a[0],a[2]}}
+    ORKA   Verilog  noRepeat  <*2>a<0:2:2>         2{a!ERROR!}}
+    ORKA   Verilog  noRepeat  <*2>a<1,2*3>         2{a[1][2]!ERROR!}}
+    items  ORKA     plain     Sa [3] <*2> Sb }     a<3,<*2>>b)
+    items  Verilog  plain     Sa [0:2:2] <*2> Sb    a[0]2{.b,a[2]2{.b}}
+    items  Verilog  plain     Sa [0:2:2] <*200> Sb  a[0],a[2]200{.b}}  // a long repeat ends a name
+    items  Verilog  plain     Sa <*2> Sb [0:2:2]    a2{.b[0],b[2]}}
+    items  Verilog  explode   <*2> , Sa [1:0] } Sb [1:0]  2{}},a[1:0]}.b[1],b[0]
   )");
 }
 

@@ -2,43 +2,103 @@
 #ifndef PATH_SUPPORT_H
 #define PATH_SUPPORT_H
 
-#include "path/pathInternals.h"
+#include "path/languages.h"
+#include "path/zelPath.h"
 #include "support/pairs.h"
 
 #include <memory>
 #include <set>
 
+// What the functions of paths do not show.
+namespace internals {
+
+// The bytes of every chunk in use, with a bar between chunks.
+inline std::string bytesOf(const zelPathRecord *path) {
+  std::string text;
+  for (const zelPathRecord *chunk = path; chunk != nullptr && chunk->used != 0; chunk = chunk->next) {
+    text += chunk == path ? "" : " |";
+    for (int i = 0; i < chunk->used; ++i)
+      text += (text.empty() ? "" : " ") + std::to_string(chunk->items[i]);
+  }
+  return text;
+}
+
+// Whether the walk stands on an identifier that is not converted yet, and then its text.
+inline bool isTextAt(zelPath path, std::string &text) {
+  const zelPathRecord *chunk = path;
+  for (std::uint32_t number = zelPathGetLocation(path) >> 8; number > 1; --number)
+    chunk = chunk->next;
+  const std::uint8_t kind = chunk->items[zelPathGetLocation(path) & 0xFF];
+  if (!zeli::isText(kind))
+    return false;
+  const char *const start = chunk->slots[zeli::slotOf(kind)].string;
+  text.assign(start, zeli::languageOf(path)->names.scan(start, path->handle));
+  return true;
+}
+
+// What the flag word notes of a path, and the bit that reports it, if any.
+struct Note {
+  const char *name;
+  std::uint32_t flag;
+  int reported;
+};
+inline constexpr Note notes[] = {{"error", zeli::flagError, ZEL_PATH_ERROR},
+                                 {"hierarchy", zeli::flagHierarchy, ZEL_PATH_HIERARCHY},
+                                 {"index", zeli::flagIndex, ZEL_PATH_INDEX},
+                                 {"range", zeli::flagRange, ZEL_PATH_RANGE},
+                                 {"complex", zeli::flagComplex, ZEL_PATH_COMPLEX},
+                                 {"mid-index", zeli::flagMidIndex, ZEL_PATH_MID_INDEX},
+                                 {"mid-range", zeli::flagMidRange, ZEL_PATH_MID_RANGE},
+                                 {"repeat", zeli::flagRepeat, ZEL_PATH_REPEAT},
+                                 {"list", zeli::flagList, ZEL_PATH_LIST},
+                                 {"complex-index", zeli::flagComplexIndex, 0},
+                                 {"leading-divider", zeli::flagLeadingDivider, 0}};
+inline bool isNoted(const zelPathRecord *path, const Note &note) { return (path->flags & note.flag) != 0; }
+
+// Whether the path is one name where lists and repeats are several, and where complex indexes are as well.
+inline bool isSingle(const zelPathRecord *path) { return (path->flags & (zeli::flagList | zeli::flagRepeat)) == 0; }
+inline bool isSimple(const zelPathRecord *path) {
+  return isSingle(path) && (path->flags & (zeli::flagComplex | zeli::flagComplexIndex)) == 0;
+}
+
+// The number of the language in pathLanguages, from 1.
+inline std::size_t languageOf(const zelPathRecord *path) {
+  return path->flags >> zeli::languageShift & zeli::languageMask;
+}
+inline void setNoLanguage(zelPath path) { path->flags |= zeli::languageMask << zeli::languageShift; }
+
+} // namespace internals
+
 struct Release {
   void operator()(zelPath path) const { zelFreePath(path, nullptr, nullptr); }
-  void operator()(zelHandle handle) const { zelFreeHandle(handle); }
 };
 using Path = std::unique_ptr<zelPathRecord, Release>;
-using Handle = std::unique_ptr<const zelHandleRecord, Release>;
 
 // What parses and prints in a space; handle is null for the separators that the space has.
 struct PathSpace {
   decltype(&zelParseVerilog) parse;
   decltype(&zelPathToVerilogEx) print;
-  zelHandle handle;
+  zelHandle builtIn;
+  zelHandle handle = nullptr;
 };
 inline const std::map<std::string, PathSpace> pathSpaces = {
-    {"Verilog", {zelParseVerilog, zelPathToVerilogEx, nullptr}},
-    {"VerilogAMS", {zelParseVerilogAMS, zelPathToVerilogEx, nullptr}},
-    {"VHDL", {zelParseVHDL, zelPathToVHDLEx, nullptr}},
-    {"VHDL87", {zelParseVHDL87, zelPathToVHDLEx, nullptr}},
-    {"VHDLAMS", {zelParseVHDLAMS, zelPathToVHDLEx, nullptr}},
-    {"ORKA", {zelParseORKA, zelPathToORKAEx, nullptr}},
-    {"Gcf", {zelParseGcf, zelPathToGcfEx, nullptr}},
-    {"Tessel", {zelParseTessel, zelPathToTesselEx, nullptr}},
-    {"FlatTessel", {zelParseFlatTessel, zelPathToFlatTesselEx, nullptr}},
-    {"Sdf", {zelParseSdf, zelPathToSdfEx, nullptr}},
-    {"Spf", {zelParseSpf, zelPathToSpfEx, nullptr}},
-    {"Spef", {zelParseSpef, zelPathToSpefEx, nullptr}},
-    {"Kirra", {zelParseKirra, zelPathToKirraEx, nullptr}},
-    {"KirraHDL", {zelParseKirraHDL, zelPathToKirraHDLEx, nullptr}},
-    {"Spice", {zelParseSpice, zelPathToSpiceEx, nullptr}},
-    {"Def", {zelParseDef, zelPathToDefEx, nullptr}},
-    {"Lef", {zelParseLef, zelPathToLefEx, nullptr}}};
+    {"Verilog", {zelParseVerilog, zelPathToVerilogEx, zelVerilogHandle}},
+    {"VerilogAMS", {zelParseVerilogAMS, zelPathToVerilogEx, zelVerilogAMSHandle}},
+    {"VHDL", {zelParseVHDL, zelPathToVHDLEx, zelVHDLHandle}},
+    {"VHDL87", {zelParseVHDL87, zelPathToVHDLEx, zelVHDL87Handle}},
+    {"VHDLAMS", {zelParseVHDLAMS, zelPathToVHDLEx, zelVHDLAMSHandle}},
+    {"ORKA", {zelParseORKA, zelPathToORKAEx, zelORKAHandle}},
+    {"Gcf", {zelParseGcf, zelPathToGcfEx, zelGcfHandle}},
+    {"Tessel", {zelParseTessel, zelPathToTesselEx, zelTesselHandle}},
+    {"FlatTessel", {zelParseFlatTessel, zelPathToFlatTesselEx, zelFlatTesselHandle}},
+    {"Sdf", {zelParseSdf, zelPathToSdfEx, zelSdfHandle}},
+    {"Spf", {zelParseSpf, zelPathToSpfEx, zelSpfHandle}},
+    {"Spef", {zelParseSpef, zelPathToSpefEx, zelSpefHandle}},
+    {"Kirra", {zelParseKirra, zelPathToKirraEx, zelKirraHandle}},
+    {"KirraHDL", {zelParseKirraHDL, zelPathToKirraHDLEx, zelKirraHDLHandle}},
+    {"Spice", {zelParseSpice, zelPathToSpiceEx, zelSpiceHandle}},
+    {"Def", {zelParseDef, zelPathToDefEx, zelDefHandle}},
+    {"Lef", {zelParseLef, zelPathToLefEx, zelLefHandle}}};
 // The languages that have a printer of their own.
 inline const std::vector<std::string> printedLanguages =
     wordsOf("Verilog Kirra KirraHDL VHDL ORKA Tessel FlatTessel Lef Def Sdf Spf Spef Gcf Spice");
@@ -52,10 +112,9 @@ inline PathSpace spaceAt(const std::string &words) {
   if (end != words.size()) {
     std::string separators = words.substr(end + 1, words.size() - end - 2);
     separators.resize(4, '\0');
-    const auto at = [&](std::size_t i) { return static_cast<std::uint32_t>(separators[i]); };
     Handle &handle = made[words];
     if (handle == nullptr)
-      handle.reset(zelGetHandle(name.c_str(), at(3), at(0), at(1), at(2)));
+      handle.reset(makeHandle(zelGetHandle, name, separators[3] + separators.substr(0, 3)));
     space.handle = handle.get();
   }
   return space;

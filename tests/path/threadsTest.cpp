@@ -8,8 +8,8 @@ namespace {
 
 constexpr int threadCount = 8, rounds = 44;
 
-// Everything that one caller with separators of its own maps, through its own ring.
-std::vector<std::string> mapAll(std::size_t caller) {
+// Everything that one caller with separators of its own maps, through its own ring, and by a mapping that all share.
+std::vector<std::string> mapAll(std::size_t caller, zelMapping shared) {
   const auto separator = static_cast<unsigned char>("./|:_-#x"[caller]);
   const std::vector<std::string> names = wordsOf(R"(clk Data_Out \a+b␣ \a␣b\ u1/u2 a#20b x[3] signal 2n3904 %Lib)");
   std::vector<std::string> results;
@@ -29,26 +29,36 @@ std::vector<std::string> mapAll(std::size_t caller) {
       for (const std::uint32_t flags : {0U, 1U, 8U, 31U})
         keep(zelPathMapperEx(path.c_str(), nullptr, handle.get(), flags, "Verilog", nullptr, zelAllocRing, &ring));
   }
+  for (const std::string &path : wordsOf(R"(u1.Clk[3] \a/b␣ {a,b} module top.\u/1␣.x)"))
+    keep(zelMappingApply(shared, path.c_str(), zelAllocRing, &ring));
   zelFreeRing(&ring);
   return results;
 }
 
 TEST(Threads, MapAsOneThreadDoes) {
+  zelMappingOptions options = {};
+  options.size = sizeof options;
+  options.from = "Verilog";
+  options.to = "Sdf";
+  options.toSeparators = {'\0', '.', '<', '>'};
+  const zelMapping shared = zelCreateMapping(&options, nullptr, 0);
+  ASSERT_NE(shared, nullptr);
   std::vector<std::vector<std::string>> expected(threadCount);
   for (std::size_t caller = 0; caller < threadCount; ++caller)
-    expected[caller] = mapAll(caller);
+    expected[caller] = mapAll(caller, shared);
   EXPECT_NE(expected[0], expected[1]); // the separators do make a difference
   EXPECT_GT(expected[0].size() * threadCount * rounds, 300000U);
   int differing[threadCount] = {};
   std::vector<std::thread> threads;
   for (std::size_t caller = 0; caller < threadCount; ++caller)
-    threads.emplace_back([&expected, &differing, caller] {
+    threads.emplace_back([&, caller] {
       for (int round = 0; round < rounds; ++round)
-        differing[caller] += mapAll(caller) != expected[caller] ? 1 : 0;
+        differing[caller] += mapAll(caller, shared) != expected[caller] ? 1 : 0;
     });
   for (std::thread &thread : threads)
     thread.join();
   EXPECT_EQ(std::count(differing, differing + threadCount, 0), threadCount);
+  zelFreeMapping(shared);
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 // The spaces whose separators a file may redefine, under handles that do.
 #include "support/spaces.h"
 
-#include <memory>
-
 namespace {
 const struct Driven {
   std::string name;
@@ -15,11 +13,6 @@ const struct Driven {
                     {"Spf", zelIdentToSpfWithHandle, zelSpfToIdentWithHandle, zelIsSpfEscapableChar},
                     {"Def", zelIdentToDefWithHandle, zelDefToIdentWithHandle, zelIsDefEscapableChar},
                     {"Lef", zelIdentToLefWithHandle, zelLefToIdentWithHandle, zelIsLefEscapableChar}};
-
-using Handle = std::unique_ptr<const zelHandleRecord, decltype(&zelFreeHandle)>;
-Handle handleOf(const std::string &space, const std::string &separators) {
-  return {makeHandle(zelAllocHandle, space, separators), zelFreeHandle};
-}
 } // namespace
 
 // Pin delimiter, divider and bus brackets; what is written under them and read again, or only read.
@@ -28,11 +21,7 @@ TEST(CurrentHandle, decidesWhatIsEscaped) {
   for (Row &row : rowsOf(HERE, R"(
     Sdf Spef Gcf Spf Def:
       x/[]  write  Sxy   \xy   Ixy
-      //o]  write  Soo   \o\o  Ioo
-      X/[]  write  IX    x     Ix                 // lowered first, and no pin delimiter then
       X/[]  write  SX    \X    SX
-      x/[]  write  IX    \x    Ix
-      ␣/[]  write  Sa␣b  a\␣b  Ia␣b
       \/[]  write  Sa\b  a\\b  Ia\b
       ␁/[]  write  S␁    \␁    I␁
     Sdf Spef Gcf:
@@ -40,18 +29,13 @@ TEST(CurrentHandle, decidesWhatIsEscaped) {
       //[c  write  Sc]    \c\]      Ic]
       #/[]  write  Sa#41  a\#2341   Ia#41         // would be read as an escape, though the mark is quoted
       A/[]  write  S#41   \#41      I#41          // no escape: A is quoted
-      2/[]  write  S#412  \#2341\2  I#412
       1/[]  write  S#41   \#234\1   I#2341        // the quoted digit hides the escape from the reader
-      ␣/[]  write  Sa#20  a\#20     Ia#20
-      %/[]  write  Sa%20  a\%20     Ia%20
       é/[]  write  Sé     \#e9      Ié            // of no class, whatever the separators
     Spf:
       /x[]  write  Sxy     \xy      Ixy
       //[c  write  Sc]     \c]      Ic]
-      ./[]  write  Sa:b.   a:b\.    Ia:b.
       #/[]  write  Sa#b    a#b      Ia#b
       #/[]  write  S\#41   \\#2341  I\#41
-      #/[]  write  S#2323  #232323  I#2323
       A/[]  write  S#41    #41      I#41
       é/[]  write  Sé      \#e9     I\é
       #/[]  read   \#41    IA
@@ -59,13 +43,9 @@ TEST(CurrentHandle, decidesWhatIsEscaped) {
       /x[]  write  Sxy    xy        Ixy
       //[c  write  Sc]    \c]       Ic]
       .x[]  write  Sa/b.  a/b\.     Ia/b.
-      %/[]  write  Sa%b   a%b       Ia%b
       %/[]  write  Sa%41  a%2541    Ia%41
-      %/[]  write  Sa%25  a%25      Ia%25
       A/[]  write  S%41   %41       I%41
       ;/[]  write  Sa;b   a\;b      Ia;b
-      é/[]  write  Sé%e9  \é%e9     Ié%e9         // a separator may be any byte
-      //[]  write  Sé%e9  %e9%25e9  Ié%e9
       x/[]  read   axb    Iaxb
     Lef:
       x/[]  write  Sxy    xy       Ixy
@@ -74,7 +54,6 @@ TEST(CurrentHandle, decidesWhatIsEscaped) {
       //[c  write  Sc]    \c]      Ic]
       /.[]  write  Sa/b.  a/b\.    Ia/b.
       /%[]  write  Sa%b   a%b      refused        // the mark stands as it is
-      /␣[]  write  Sa␣b   a\␣b     Ia␣b
       /é[]  write  Sé%e9  \é%e9    Ié%e9
       /x[]  read   axb    refused                 // a separator of LEF cannot stand plain
       /%[]  read   \%41   IA
@@ -82,7 +61,7 @@ TEST(CurrentHandle, decidesWhatIsEscaped) {
     const std::vector<std::string> spaces = wordsOf(row.heading);
     for (const Driven &space : drivenSpaces)
       if (std::find(spaces.begin(), spaces.end(), space.name) != spaces.end()) {
-        const Handle handle = handleOf(space.name, row[0]);
+        const Handle handle(makeHandle(zelAllocHandle, space.name, row[0]));
         std::string name = row[2];
         if (row[1] == "write") {
           const Result written = take(space.write(row[2].c_str(), nullptr, nullptr, handle.get()));
@@ -90,7 +69,7 @@ TEST(CurrentHandle, decidesWhatIsEscaped) {
           row.expect(row[3], name, space.name);
         }
         const Result ident = take(space.read(name.c_str(), nullptr, nullptr, handle.get()));
-        row.expect(row.cells.back(), stated(ident, errno), space.name);
+        row.expect(decoded(row.cells.back()), stated(ident, errno), space.name);
       }
   }
 }
@@ -110,7 +89,7 @@ TEST(CurrentHandle, standsForOneCallWhateverTheOutcome) {
     }
   };
   for (const Driven &space : drivenSpaces) {
-    const Handle handle = handleOf(space.name, "xxxx");
+    const Handle handle(makeHandle(zelAllocHandle, space.name, "xxxx"));
     for (const auto conversion : {space.write, space.read}) {
       for (const char *text : {"Sa", "", static_cast<const char *>(nullptr)}) {
         EXPECT_EQ(take(conversion(text, nullptr, nullptr, handle.get())).has_value(), text != nullptr && *text != '\0');

@@ -34,11 +34,10 @@ TEST(VHDLMode, decidesBeforeTheEnvironment) {
     0  Yes   unset reserved reserved reserved unasked reserved
     0  yess  unset reserved reserved reserved unasked reserved
     1  -     set to VHDL-87 free free free asked free                    // read first when it has changed
-    2  -     set reserved reserved reserved asked free
     2  yes   set reserved reserved reserved unasked reserved
     3  yes   set reserved reserved reserved unasked reserved
   )")) {
-    row.tried();
+    const testing::ScopedTrace trace = row.trace();
     EXPECT_EXIT(showReserved(row[1], std::stoi(row[0])), testing::ExitedWithCode(0), '^' + row[2] + '$');
   }
 }

@@ -1,43 +1,50 @@
 // Rules of spaces, in tables under headings of the spaces that they hold in:
 //
 //     write    Sa b  \a#20b␣    in MATCH     an Ident and its name
-//     read     \a    refused                 a name and its Ident; refused: null with EINVAL
-//     legal    a
+//     read     \a    Ia                      a name and its Ident
+//     both     SA+b  \A+b␣                   an Ident and its name, which is legal and read as that Ident
+//     refused  1a $                          names that are neither legal nor read
+//     legal    a \a␣
 //     illegal  1a
 //
-// They hold in every mapping state, or in those that end the row: "in MATCH", "not in VHDL TANDEM".
+// A result holds in every mapping state, or in those that stand behind it: "in MATCH", "not in VHDL TANDEM"; more such
+// pairs may follow.
 #ifndef SUPPORT_SPACERULES_H
 #define SUPPORT_SPACERULES_H
 
 #include "spaces.h"
 
-inline bool holdsIn(const std::string &state, const Row &row) {
-  const std::vector<std::string> words = wordsOf(row.cells.back());
+inline bool holdsIn(const std::string &state, const std::string &condition) {
+  const std::vector<std::string> words = wordsOf(condition);
   const bool isListed = std::find(words.begin(), words.end(), state) != words.end();
-  if (row.cells.size() < 3 || words.empty())
-    return true;
-  return words[0] == "in" ? isListed : words[0] == "not" ? !isListed : true;
-}
-
-inline std::string appliedTo(const std::string &space, const Row &row) {
-  const auto &[shown, read, write, isLegal] = *spaceOf(space);
-  if (row[0] == "write")
-    return convert(write, row[1].c_str());
-  if (row[0] == "read")
-    return convert(read, row[1].c_str());
-  return isLegal(row[1].c_str()) == 1 ? "legal" : "illegal";
+  return words.empty() || isListed == (words[0] == "in");
 }
 
 inline void expectRules(const char *file, int line, const char *table) {
   const VHDLMode mode(2);
-  for (Row &row : rowsOf(file, line, table)) {
-    const bool isConversion = row[0] == "write" || row[0] == "read";
+  for (Row &row : rowsOf(file, line, table))
     for (const std::string &space : wordsOf(row.heading))
-      for (const auto &[name, value] : mapStates)
-        if (const MapState state(value); holdsIn(name, row))
-          row.expect(row[isConversion ? 2 : 0], appliedTo(space, row),
-                     std::string(space).append(", state ").append(name));
-  }
+      for (const auto &[name, value] : mapStates) {
+        const MapState state(value);
+        const auto &[shownName, read, write, isLegal] = *spaceOf(space);
+        const std::string where = std::string(space).append(", state ").append(name);
+        const bool isBoth = row[0] == "both";
+        for (std::size_t i = 2; i < row.cells.size(); i += 2)
+          if (holdsIn(name, row[i + 1])) {
+            if (row[0] == "write" || isBoth)
+              row.expect(row[i], convert(write, row[1].c_str()), where);
+            if (row[0] == "read" || isBoth)
+              row.expect(isBoth ? row[1] : row[i], convert(read, row[isBoth ? i : 1].c_str()), where);
+          }
+        if (isBoth)
+          row.expect("1", std::to_string(isLegal(row[2].c_str())), where + ", whether it is legal");
+        if (row[0] == "legal" || row[0] == "illegal" || row[0] == "refused")
+          for (const std::string &text : wordsOf(row.cells[1])) {
+            const std::string given = text + ", " + where;
+            row.expect(row[0] == "legal" ? "1" : "0", std::to_string(isLegal(text.c_str())), given);
+            row.expect("refused", row[0] == "refused" ? convert(read, text.c_str()) : "refused", given);
+          }
+      }
 }
 
 #endif

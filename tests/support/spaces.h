@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 
 // A process-wide setting for the length of a scope.
 template <auto get, auto set> struct Setting {
@@ -34,5 +35,10 @@ inline zelHandle makeHandle(decltype(&zelGetHandle) maker, const std::string &sp
   const auto at = [&](std::size_t i) { return 0xffffff00U | static_cast<unsigned char>(separators[i]); };
   return maker(space.c_str(), at(0), at(1), at(2), at(3));
 }
+
+struct ReleaseHandle {
+  void operator()(zelHandle handle) const { zelFreeHandle(handle); }
+};
+using Handle = std::unique_ptr<const zelHandleRecord, ReleaseHandle>;
 
 #endif

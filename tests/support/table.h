@@ -11,9 +11,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdio>
-#include <gtest/gtest-spi.h>
+#include <deque>
 #include <gtest/gtest.h>
-#include <memory>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -41,21 +40,16 @@ inline std::string decoded(std::string text) {
 
 // A text as a cell shows it, shortened when nobody would read it to its end.
 inline std::string shown(const std::string &text) {
-  std::string result;
-  for (std::size_t i = 0; i < text.size() && result.size() < 300; ++i) {
-    const char c = text[i];
-    const bool isSeen = c > ' ' && c < '\x7f';
-    const bool isInside = c == ' ' && i != 0 && i + 1 != text.size() && text[i - 1] != ' ' && text[i + 1] != ' ';
+  std::string result = text.empty() ? "\"\"" : "";
+  for (const char c : text.substr(0, 200)) {
     char code[8];
     std::snprintf(code, sizeof code, "<%02x>", static_cast<unsigned>(static_cast<unsigned char>(c)));
-    std::string_view form = isSeen || isInside ? std::string_view(&c, 1) : code;
+    std::string_view form = c > ' ' && c < '\x7f' ? std::string_view(&c, 1) : code;
     for (const VisibleByte &byte : visibleBytes)
-      if (byte.meant == c && !isInside)
-        form = byte.shown;
+      form = byte.meant == c ? byte.shown : form;
     result += form;
   }
-  const std::string length = "… (" + std::to_string(text.size()) + " bytes)";
-  return text.empty() ? "\"\"" : text.size() < 200 ? result : result.substr(0, 40) + length;
+  return text.size() > 200 ? result + "… (" + std::to_string(text.size()) + " bytes)" : result;
 }
 
 // The words of a text, each of them decoded.
@@ -70,110 +64,65 @@ inline std::vector<std::string> wordsOf(const std::string &text) {
 class Row {
 public:
   const std::string heading;
-  const std::string text; // as it stands in the file
-  std::vector<std::string> cells;
+  std::vector<std::string> cells; // as they stand
 
   Row(const char *inFile, int atLine, std::string under, std::string standing)
-      : heading(std::move(under)), text(std::move(standing)), file(inFile), line(atLine) {
+      : heading(std::move(under)), file(inFile), line(atLine), text(std::move(standing)) {
     for (std::size_t at = 0; at < text.size(); at = text.find_first_not_of(' ', at)) {
       const std::size_t end = std::min(text.find("  ", at), text.size());
       const std::string cell = text.substr(at, end - at);
       if (cell.starts_with("// "))
         break;
-      cells.push_back(decoded(cell));
+      cells.push_back(cell);
       at = end;
     }
   }
+  Row(const Row &) = delete;
+  Row &operator=(const Row &) = delete;
+  ~Row() {
+    if (!isTried)
+      ADD_FAILURE_AT(file, line) << text << "\n  was not tried";
+  }
 
-  // A cell; empty where the row has ended.
-  std::string operator[](std::size_t i) const { return i < cells.size() ? cells[i] : ""; }
+  // What a cell stands for; empty where the row has ended.
+  std::string operator[](std::size_t i) const { return i < cells.size() ? decoded(cells[i]) : ""; }
 
   void expect(const std::string &expected, const std::string &found, const std::string &where = "") {
-    tried();
-    if (expected != found)
-      fail("found " + shown(found) + (where.empty() ? "" : " in " + where));
+    isTried = true;
+    if (expected != found && !hasFailed)
+      ADD_FAILURE_AT(file, line) << text << "\n  found " << shown(found) << (where.empty() ? "" : " in " + where);
+    hasFailed = hasFailed || expected != found;
   }
-  void tried() { isTried = true; } // by other means than expect
-  void fail(const std::string &complaint) {
-    if (++failures == 1)
-      first = complaint;
-  }
-  void report() const {
-    const std::string others = failures > 1 ? "\n  and " + std::to_string(failures - 1) + " more" : "";
-    if (failures != 0 || !isTried)
-      ADD_FAILURE_AT(file, line) << text << "\n  " << (failures != 0 ? first : "was not tried") << others;
+
+  // For what is tried by other means than expect, while the result lives.
+  testing::ScopedTrace trace() {
+    isTried = true;
+    return {file, line, text};
   }
 
 private:
   const char *file;
   int line;
+  std::string text; // as it stands in the file
   bool isTried = false;
-  int failures = 0;
-  std::string first;
-};
-
-// The rows of a table, one after the other. What EXPECT_ finds while one is tried is the row's.
-class Rows {
-public:
-  Rows(const char *file, int line, const char *table) {
-    std::istringstream lines(table);
-    std::string heading;
-    for (std::string text; std::getline(lines, text); ++line) {
-      text.erase(0, std::min(text.find_first_not_of(' '), text.size()));
-      const bool isComment = text.empty() || text.starts_with("// ");
-      if (!isComment && text.back() == ':' && text.find("  ") == std::string::npos)
-        heading = text.substr(0, text.size() - 1);
-      else if (!isComment)
-        rows.emplace_back(file, line, heading, text);
-    }
-  }
-  Rows(const Rows &) = delete;
-  Rows &operator=(const Rows &) = delete;
-  ~Rows() { finish(); }
-
-  struct End {};
-  struct Iterator {
-    Rows &of;
-    Row &operator*() const { return of.rows[of.at]; }
-    void operator++() const {
-      of.finish();
-      of.start(of.at + 1);
-    }
-    bool operator!=(End) const { return of.at < of.rows.size(); }
-  };
-  Iterator begin() {
-    start(0);
-    return {*this};
-  }
-  static End end() { return {}; }
-
-private:
-  struct Complaints {
-    testing::TestPartResultArray all;
-    testing::ScopedFakeTestPartResultReporter reporter{
-        testing::ScopedFakeTestPartResultReporter::INTERCEPT_ONLY_CURRENT_THREAD, &all};
-  };
-  std::vector<Row> rows;
-  std::size_t at = 0;
-  std::unique_ptr<Complaints> complaints; // while a row is tried
-
-  void start(std::size_t row) {
-    at = row;
-    if (at < rows.size())
-      complaints = std::make_unique<Complaints>();
-  }
-  void finish() {
-    if (complaints == nullptr)
-      return;
-    for (int i = 0; i < complaints->all.size(); ++i)
-      rows[at].fail(complaints->all.GetTestPartResult(i).message());
-    complaints.reset(); // failures are no longer intercepted
-    rows[at].report();
-  }
+  bool hasFailed = false;
 };
 
 // for (Row &row : rowsOf(HERE, R"(...)"))
 //   row.expect(row[1], f(row[0]));
-inline Rows rowsOf(const char *file, int line, const char *table) { return {file, line, table}; }
+inline std::deque<Row> rowsOf(const char *file, int line, const char *table) {
+  std::deque<Row> rows;
+  std::istringstream lines(table);
+  std::string heading;
+  for (std::string text; std::getline(lines, text); ++line) {
+    text.erase(0, std::min(text.find_first_not_of(' '), text.size()));
+    const bool isComment = text.empty() || text.starts_with("// ");
+    if (!isComment && text.back() == ':' && text.find("  ") == std::string::npos)
+      heading = text.substr(0, text.size() - 1);
+    else if (!isComment)
+      rows.emplace_back(file, line, heading, text);
+  }
+  return rows;
+}
 
 #endif

@@ -33,7 +33,6 @@ maps $'U1.A\n' $'U1:A\n' 'Verilog DSPF --kind pin'
 maps $'u1.a\\/b\n' $'u1.\\a/b \n' 'Sdf Verilog --from-separators divider=.'
 maps $'a.b[1]\n' $'a|b<1>\n' "Verilog Sdf --to-separators 'divider=|,bus=<>'"
 maps $'a/b\n' $'a\\/b\n' 'Ascii Sdf --names'
-maps $'u1.r2\n' $'Xu1.Xr2\n' 'Verilog Spice --kind instance --element X'
 maps $'u1.r2\n' $'u1.Xr2\n' 'Verilog Spice --kind instance --element X --levels last'
 maps $'Foo\n' $'foo\n' 'VHDL Verilog'
 maps $'Foo\n' $'Foo\n' 'VHDL Verilog --state match'
@@ -46,7 +45,6 @@ maps $'Foo\n' $'foo\n' 'VHDL Verilog --lenient'
 
 # Lines. The end of one stands for the white space behind an escaped identifier, but for none that a backslash escapes.
 maps '' '' 'Verilog VHDL'
-maps 'a' 'a' 'Verilog VHDL'
 maps $'a\r\n\r\n\n\\b/c\r\n' $'a\r\n\r\n\n\\b/c\\\r\n' 'Verilog VHDL --names'
 maps $'x\t\\b/c\r\n\t\r\n' $'x\t\\b/c\\\r\n\t\r\n' 'Verilog VHDL --names --field 2'
 gives 1 $'a\\\n' $'\n-:1:2: nothing ends the escape or quote: a\\\n'"$(caret 43)"$'\n' 'zel map Kirra Verilog --names'
@@ -124,7 +122,6 @@ gives 1 $'module\na\n\nx-\n' $'-:1:1: reserved word\n-:3:1: there is no name\n-:
     'zel check Verilog --names'
 gives 1 $'top.logic\ntop.\\logic \n\\a .\\logic .logic\n' $'-:1:5: reserved word of the revision\n-:3:13: reserved word of the revision\n' 'zel check Verilog --keywords 1800-2017'
 gives 1 $'model\n' $'-:1:1: reserved word\n' 'zel check Kirra --names'
-gives 1 $'x y\n' '' 'zel check Verilog --quiet'
 gives 1 $'n\nx y\n' $'-:2:3: unexpected character\n' 'zel check Verilog --csv --field n'
 
 # explain: spellings, why, and what is lost.
