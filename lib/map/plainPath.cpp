@@ -1,5 +1,7 @@
 #include "map/plainPath.h"
 
+#include "path/zelPath.h"
+
 namespace zeli {
 
 namespace {
@@ -52,12 +54,17 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
   to = route.to.marks;
   first = route.from.language->isIntroduced && path[0] == from.divider ? 1 : 0;
   isIntroduced = false;
+  isExpanded = false;
   text = Bytes(path.data() + first, 0);
   if (!route.takesPlainPaths || path.size() > maxName ||
       ((route.unless & traitsOfAll) != 0 && (lookAt(path).traits & route.unless & traitsOfAll) != 0))
     return false;
   enum { inName, inFirst, inLast, behindBus } state = inName;
+  bool isDivided = false;
   std::size_t start = first; // of the word or number
+  std::size_t open = 0;      // the last bracket
+  std::size_t rangeOpen = 0; // the bracket of a range that is expanded ...
+  std::size_t rangeClose = 0;
   for (std::size_t i = 0; i < path.size(); i += 64)
     for (std::uint64_t bits = marksFrom(path, i); bits != 0; bits &= bits - 1) {
       const std::size_t at = i + static_cast<std::size_t>(__builtin_ctzll(bits));
@@ -68,31 +75,92 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
         if (state == inName ? !takesWord(route, path, start, at) : state != behindBus || start != at)
           return false;
         state = inName;
-        text = Bytes(text.data(), at + 1 - first);
+        isDivided = true;
+        if (rangeClose == 0) // a range to be expanded is no level that stands
+          text = Bytes(text.data(), at + 1 - first);
       } else if (mark == from.busOpen && mark != '\0' && to.busOpen != '\0') {
         if (state != inName || !takesWord(route, path, start, at))
           return false;
         state = inFirst;
+        open = at;
       } else {
         const bool isRange = mark == ':' && state == inFirst && route.takesRanges;
         const bool isEnd = mark == from.busClose && (state == inFirst || state == inLast);
         if (!(isRange || isEnd) || !takesNumber(path, start, at))
           return false;
+        if (state == inLast && route.expandsRanges) {
+          if (rangeClose != 0)
+            return false;
+          rangeOpen = open;
+          rangeClose = at;
+        }
         state = isRange ? inLast : behindBus;
       }
       start = at + 1;
     }
   if (state == inName ? !takesWord(route, path, start, path.size()) : state != behindBus || start != path.size())
     return false;
-  const bool isDivided = !text.empty();
   if (isDivided && route.to.language->isIntroduced && path.size() - first == maxName)
     return false;
   isIntroduced = isDivided && route.to.language->isIntroduced;
   text = Bytes(text.data(), path.size() - first);
-  return true;
+  if (rangeClose == 0 || expand(rangeOpen - first, rangeClose - first))
+    return true;
+  isIntroduced = false;
+  text = Bytes(text.data(), 0);
+  return false;
+}
+
+// Writes the path with each number of the range between the brackets of text; false where that is too much.
+bool PlainPath::expand(std::size_t open, std::size_t close) {
+  const auto numberAt = [this](std::size_t &at) {
+    std::int32_t number = 0;
+    for (; digit.has(text[at]); ++at)
+      number = number * 10 + (text[at] - '0');
+    return number;
+  };
+  std::size_t at = open + 1;
+  std::int32_t number = numberAt(at);
+  const std::int32_t last = numberAt(++at);
+  const std::int32_t step = number <= last ? 1 : -1;
+
+  // The path without the range, the ends of which stand around a comma between two numbers.
+  char levels[maxName + 1];
+  copyLevels(levels);
+  const std::size_t before = open + 1 + (isIntroduced ? 1 : 0);
+  const std::size_t behind = text.size() - close;
+  char between[maxName + 1 + blockBytes];
+  std::memcpy(between, levels + levelsSize() - behind, behind);
+  between[behind] = ',';
+  std::memcpy(between + behind + 1, levels, before);
+
+  std::memcpy(expanded, levels, before);
+  char *out = expanded + before;
+  for (;; number += step) {
+    out = writeNumber(out, number);
+    if (number == last)
+      break;
+    if (static_cast<std::size_t>(out - expanded) + behind + 1 + before > maxName)
+      return false;
+    for (std::size_t i = 0; i < behind + 1 + before; i += blockBytes)
+      storeBlock(out + i, loadBlock(between + i));
+    out += behind + 1 + before;
+  }
+  expandedSize = static_cast<std::size_t>(out - expanded) + behind;
+  isExpanded = expandedSize <= maxName;
+  if (isExpanded)
+    std::memcpy(out, between, behind);
+  return isExpanded;
 }
 
 void PlainPath::copyTo(char *result) const {
+  if (isExpanded)
+    std::memcpy(result, expanded, expandedSize);
+  else
+    copyLevels(result);
+}
+
+void PlainPath::copyLevels(char *result) const {
   // What is to be added to the marks.
   const auto change = [](Block block, char mark, char other) {
     return reinterpret_cast<Block>(isChar(block, mark)) & static_cast<unsigned char>(other - mark);

@@ -22,7 +22,7 @@ public:
 
   // The levels in the other language, which copyTo puts where there is room for so much. That may be where the path
   // lies.
-  std::size_t size() const { return text.size() + (isIntroduced ? 1 : 0); }
+  std::size_t size() const { return isExpanded ? expandedSize : levelsSize(); }
   void copyTo(char *to) const;
 
 private:
@@ -31,6 +31,14 @@ private:
   Punctuation from;
   Punctuation to;
   bool isIntroduced; // a divider is to stand in front
+  bool isExpanded;   // a range was, to single bits
+
+  std::size_t expandedSize;
+  char expanded[maxName + 3 * blockBytes];
+
+  std::size_t levelsSize() const { return text.size() + (isIntroduced ? 1 : 0); }
+  void copyLevels(char *to) const;
+  bool expand(std::size_t open, std::size_t close);
 };
 
 } // namespace zeli

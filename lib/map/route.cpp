@@ -50,7 +50,8 @@ void Route::join() {
     const bool hasPins = kind == ZEL_KIND_PIN && (from.pinDelimiter != '\0' || to.pinDelimiter != '\0');
     takesPlainPaths =
         takesWords() && from.element == '\0' && to.element == '\0' && !hasPins && (printFlags & wholePathFlags) == 0;
-    takesRanges = from.language->hasPlainRanges && to.language->hasPlainRanges && (printFlags & ZEL_PRINT_EXPLODE) == 0;
+    expandsRanges = (printFlags & ZEL_PRINT_EXPLODE) != 0;
+    takesRanges = from.language->hasPlainRanges && (to.language->hasPlainRanges || expandsRanges);
   }
   if (from.language != nullptr && from.language->reader.grammar == parseVerilog)
     unless |= traitDigitFirst;

@@ -41,6 +41,7 @@ struct Route {
   Traits unless = 0;
   bool takesPlainPaths = false;       // see PlainPath
   bool takesRanges = false;           // in a plain path
+  bool expandsRanges = false;         // to bits
   const KeywordTest *keywordTests[5]; // of tested, from and to, and the words reserved besides; null-terminated
   std::size_t longestKeyword = 0;
 

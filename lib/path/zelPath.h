@@ -133,6 +133,21 @@ std::int32_t numberAt(const zelPathRecord *chunk, std::size_t position, std::siz
 
 inline bool isNumber(std::int64_t value) { return value >= ZEL_MIN_NUMBER && value <= ZEL_MAX_NUMBER; }
 
+// Writes the decimal digits of a number, and returns where they end.
+inline char *writeNumber(char *out, std::int32_t number) {
+  auto magnitude = static_cast<std::uint32_t>(number);
+  if (number < 0) {
+    *out++ = '-';
+    magnitude = 0 - magnitude;
+  }
+  std::size_t count = 1;
+  for (std::uint64_t limit = 10; magnitude >= limit; limit *= 10)
+    ++count;
+  for (char *at = out + count; at != out; magnitude /= 10)
+    *--at = static_cast<char>('0' + magnitude % 10);
+  return out + count;
+}
+
 // A place in the item stream, for walks that leave the path's own cursor alone.
 struct Cursor {
   zelPath chunk = nullptr; // null behind the last item

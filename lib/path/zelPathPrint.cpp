@@ -25,21 +25,6 @@ bool endsName(std::uint8_t kind) {
   }
 }
 
-// Writes the decimal digits of a number, and returns where they end.
-char *writeNumber(char *out, std::int32_t number) {
-  auto magnitude = static_cast<std::uint32_t>(number);
-  if (number < 0) {
-    *out++ = '-';
-    magnitude = 0 - magnitude;
-  }
-  std::size_t count = 1;
-  for (std::uint64_t limit = 10; magnitude >= limit; limit *= 10)
-    ++count;
-  for (char *at = out + count; at != out; magnitude /= 10)
-    *--at = static_cast<char>('0' + magnitude % 10);
-  return out + count;
-}
-
 // What is kept of a combination for the next: the text in front of the last node's item, which is the same as long as
 // no other node moves on and combinations begin in the same state, so that identifiers are not written anew for every
 // bit; and where the last node's number stands.
