@@ -5,12 +5,24 @@ using namespace zeli;
 
 namespace {
 
-// Whether a word is a name of both spaces as it stands. In the default mapping state only, which it must not determine.
+// Whether a name without the barred traits is a word that a space takes as it stands. In the default mapping state
+// only, which this must not determine.
+inline bool takesWord(const Operations &space, const Name &name, Traits barred) {
+  return !name.has(traitOther | barred) && !hasPrefix(name.look.traits, name.head()) &&
+         zelMapState.load(std::memory_order_relaxed) == ZEL_MAP_DEFAULT && !space.plainWords.isKeyword(name) &&
+         handleInForce(space) == nullptr;
+}
+
+// Whether it is so in both.
 inline bool isPlain(const Name &name, const Operations &from, const Operations &to) {
-  return !name.has(traitOther | barredBetween(from.plainWords, to.plainWords)) &&
-         !hasPrefix(name.look.traits, name.head()) && zelMapState.load(std::memory_order_relaxed) == ZEL_MAP_DEFAULT &&
-         !from.plainWords.isKeyword(name) && !to.plainWords.isKeyword(name) && handleInForce(from) == nullptr &&
+  return takesWord(from, name, barredBetween(from.plainWords, to.plainWords)) && !to.plainWords.isKeyword(name) &&
          handleInForce(to) == nullptr;
+}
+
+// The Ident of a word that stands as it is.
+Ident identOfWord(const Name &word, const PlainWords &words) {
+  const char marker = words.readAs;
+  return marker != '\0' ? Ident{marker, word} : identByCase(word);
 }
 
 // By way of the Ident.
@@ -41,8 +53,13 @@ char *zelMapName(const char *fromName, const char *toName, const char *name, zel
 
   const Bytes bytes = nameBytes(name);
   const Name given(bytes, lookHere(bytes));
-  if (alloc == nullptr && toId != SpaceId::Ident && isNameLength(given) && isPlain(given, *from.names, *to.names))
-    return makeString(given, alloc, context);
+  if (alloc == nullptr && isNameLength(given)) {
+    if (toId != SpaceId::Ident && isPlain(given, *from.names, *to.names))
+      return makeString(given, alloc, context);
+    if (toId == SpaceId::Ident && given.size() < maxName &&
+        takesWord(*from.names, given, from.names->plainWords.notRead))
+      return makeIdent(identOfWord(given, from.names->plainWords), alloc, context);
+  }
   return mapGeneral(given, from, to, alloc, context);
 }
 char *zelMapper(zelNameToIdentFunc nameToIdent, zelIdentToNameFunc identToName, const char *name, zelAllocFunc alloc,
