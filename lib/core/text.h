@@ -29,10 +29,10 @@ inline Bytes upTo(Bytes s, std::size_t end) { return {s.data(), end}; }
 inline bool isNameLength(Bytes name) { return !name.empty() && name.size() <= maxName; }
 
 inline bool allOf(Bytes s, const ByteSet &set) {
+  bool isIn = true; // names are so short that to stop early takes longer
   for (const char c : s)
-    if (!set.has(c))
-      return false;
-  return true;
+    isIn &= set.has(c);
+  return isIn;
 }
 
 inline bool startsWith(Bytes s, Bytes prefix) { return s.size() >= prefix.size() && upTo(s, prefix.size()) == prefix; }

@@ -41,6 +41,8 @@ zelRefusal BackslashRules::explain(const Name &name) const {
     return refuseIdent();
   if (isWord(name))
     return identByCase(name);
+  if (const Ident ident = readQuoted(name, work); ident.body.data() != nullptr)
+    return ident;
   const Unquoted unquoted = unquote(work, name);
   return unquoted.isLegal ? identOfUnquoted(name, unquoted.roles, work) : refuseIdent();
 }
@@ -51,28 +53,11 @@ Ident BackslashRules::readLegal(const Name &name, Text &work) const {
   return identOfUnquoted(name, unquote(work, name).roles, work);
 }
 
-BackslashRules::Unquoted BackslashRules::unquote(Text &out, Bytes name) const {
-  if (const Unquoted unquoted = unquoteEach(out, name); unquoted.isLegal)
-    return unquoted;
-  Unquoted result = {true, 0};
-  out.size = 0;
-  for (std::size_t i = 0; i < name.size(); ++i) {
-    if (quotes(name, i))
-      ++i;
-    else
-      result.isLegal = result.isLegal && plain.has(name[i]);
-    result.roles |= roles[static_cast<unsigned char>(name[i])];
-    out.put(name[i]);
-  }
-  return result;
-}
-
-// Of a name of ordinary length in which each backslash stands behind a word or what another quotes, and quotes all that
-// no word has: what lies between is copied in runs.
-BackslashRules::Unquoted BackslashRules::unquoteEach(Text &out, Bytes name) const {
+// Finds the backslashes at once, and copies what lies between them in runs.
+Ident BackslashRules::readQuoted(const Name &name, Text &work) const {
   constexpr std::size_t longest = 64;
   if (!takesWords || name.size() > longest)
-    return {false, 0};
+    return {};
   std::uint64_t backslashes = 0;
   std::uint64_t others = 0;
   forEachBlock(name, [&](Block block, std::size_t at) {
@@ -81,11 +66,16 @@ BackslashRules::Unquoted BackslashRules::unquoteEach(Text &out, Bytes name) cons
   });
   others &= ~std::uint64_t{0} >> (longest - name.size());
   const std::uint64_t quoted = backslashes << 1;
-  if (((backslashes & quoted) | (others & ~(backslashes | quoted)) | backslashes >> (name.size() - 1)) != 0)
-    return {false, 0};
+  if (((backslashes & quoted) | backslashes >> (name.size() - 1)) != 0)
+    return {};
 
-  unsigned seen = 0;
-  char *to = out.bytes;
+  const auto roleAt = [&](std::size_t i) -> unsigned { return roles[static_cast<unsigned char>(name[i])]; };
+  const auto lowest = [](std::uint64_t bits) { return static_cast<std::size_t>(__builtin_ctzll(bits)); };
+  unsigned unquotedRoles = 0;
+  for (std::uint64_t bits = others & ~(backslashes | quoted); bits != 0; bits &= bits - 1)
+    unquotedRoles |= roleAt(lowest(bits));
+  unsigned quotedRoles = 0;
+  char *to = work.bytes;
   std::size_t start = 0;
   const auto copyUpTo = [&](std::size_t end) {
     copyRun(to, name.data(), name.size(), start, end);
@@ -93,12 +83,30 @@ BackslashRules::Unquoted BackslashRules::unquoteEach(Text &out, Bytes name) cons
     start = end + 1;
   };
   for (; backslashes != 0; backslashes &= backslashes - 1) {
-    copyUpTo(static_cast<std::size_t>(__builtin_ctzll(backslashes)));
-    seen |= roles[static_cast<unsigned char>(name[start])];
+    copyUpTo(lowest(backslashes));
+    quotedRoles |= roleAt(start);
   }
   copyUpTo(name.size());
+  if (((unquotedRoles & notPlainRole) | (quotedRoles & notEscapableRole)) != 0)
+    return {};
+  work.size = static_cast<std::size_t>(to - work.bytes);
+  return identOfUnquoted(name, unquotedRoles | quotedRoles, work);
+}
+
+BackslashRules::Unquoted BackslashRules::unquote(Text &out, Bytes name) const {
+  const auto roleAt = [&](std::size_t i) -> unsigned { return roles[static_cast<unsigned char>(name[i])]; };
+  unsigned unquotedRoles = 0;
+  unsigned quotedRoles = 0;
+  char *to = out.bytes;
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    if (quotes(name, i))
+      quotedRoles |= roleAt(++i);
+    else
+      unquotedRoles |= roleAt(i);
+    *to++ = name[i];
+  }
   out.size = static_cast<std::size_t>(to - out.bytes);
-  return {(seen & notEscapableRole) == 0, seen};
+  return {(unquotedRoles & notPlainRole) == 0, unquotedRoles | quotedRoles};
 }
 
 Ident BackslashRules::identOfUnquoted(const Name &name, unsigned rolesSeen, Text &work) const {

@@ -63,6 +63,10 @@ struct BackslashRules {
   // The Ident of a name that has been found good.
   Ident readLegal(const Name &name, Text &work) const;
 
+  // The Ident of a name of ordinary length of which every byte is plain or quoted, and no two backslashes stand
+  // together; without data for any other.
+  Ident readQuoted(const Name &name, Text &work) const;
+
 private:
   struct Unquoted {
     bool isLegal;
@@ -71,7 +75,6 @@ private:
 
   // Copies a name to out without the backslashes that only quote.
   Unquoted unquote(Text &out, Bytes name) const;
-  Unquoted unquoteEach(Text &out, Bytes name) const;
 
   // The Ident of a name of which work holds the unquoted copy.
   Ident identOfUnquoted(const Name &name, unsigned rolesSeen, Text &work) const;
