@@ -198,13 +198,43 @@ template <typename Quotes> bool decode(Text &out, Bytes name, const HexEscape &e
 
 inline bool quotesNothing(Bytes, std::size_t) { return false; }
 
-// The same as an Ident where nothing is quoted; a capital makes a case-sensitive one. A name in which nothing is
-// encoded is its own body.
+// The same where nothing is quoted, of a name of ordinary length: what lies between the marks is copied in runs.
+inline bool decodeRuns(Text &out, Bytes name, const HexEscape &escape) {
+  std::uint64_t marks = 0;
+  std::uint64_t capitals = 0;
+  forEachBlock(name, [&](Block block, std::size_t at) {
+    marks |= std::uint64_t{bitsOf(isChar(block, escape.mark))} << at;
+    capitals |= std::uint64_t{bitsOf(isWithin(block, 'A', 'Z'))} << at;
+  });
+  char *to = out.bytes + out.size;
+  std::size_t start = 0;
+  const auto copyUpTo = [&](std::size_t end) {
+    copyRun(to, name.data(), name.size(), start, end);
+    to += end - start;
+  };
+  for (; marks != 0; marks &= marks - 1) {
+    const auto at = static_cast<std::size_t>(__builtin_ctzll(marks));
+    if (at < start || !escape.isEscape(name, at))
+      continue;
+    copyUpTo(at);
+    *to++ = hexPair(name, at + 1);
+    start = at + 3;
+    capitals &= ~(std::uint64_t{7} << at);
+  }
+  copyUpTo(name.size());
+  out.size = static_cast<std::size_t>(to - out.bytes);
+  return capitals != 0;
+}
+
+// The Ident of a name where nothing is quoted; a capital makes a case-sensitive one. A name in which nothing is encoded
+// is its own body.
 inline Ident decodeIdent(Text &work, const Name &name, const HexEscape &escape) {
+  constexpr std::size_t longest = 64;
   const Name known = name.withKinds();
   if (!known.has(traitMark))
     return identByCase(known);
-  const bool copiedUpper = decode(work, name, escape, quotesNothing);
+  const bool copiedUpper =
+      name.size() <= longest ? decodeRuns(work, name, escape) : decode(work, name, escape, quotesNothing);
   return {copiedUpper ? 'S' : 'I', Name(work.view())};
 }
 

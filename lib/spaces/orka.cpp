@@ -30,7 +30,9 @@ struct ORKARules {
   bool isLegal(const Name &name) const {
     if (!isNameLength(name))
       return false;
-    for (std::size_t i = 0; i < name.size() && !name.isWord(); ++i) {
+    if (name.isWord() || allOf(name, escape.literal))
+      return true;
+    for (std::size_t i = 0; i < name.size(); ++i) {
       const std::size_t group = indexGroup(name, i);
       if (group != 0)
         i += group - 1;
