@@ -30,18 +30,19 @@ bool isSettled(const Operations *names) { return names == nullptr || names->plai
 
 void Route::join() {
   unless = barredBetween(from.names->plainWords, to.names->plainWords);
-  if (tested != nullptr)
-    unless |= tested->plainWords.notRead;
-  const auto **end = keywordTests;
+  const KeywordTest **end = keywordTests;
   const auto add = [&](const KeywordTest &test) {
-    if (test.has == nullptr || (end != keywordTests && end[-1]->has == test.has))
-      return;
-    *end++ = &test;
+    *end = &test;
+    end += test.has != nullptr ? 1 : 0;
     longestKeyword = std::max(longestKeyword, test.longest);
   };
-  for (const Operations *names : {tested, from.names, to.names})
-    if (names != nullptr)
-      add(names->plainWords.isKeyword);
+  add(from.names->plainWords.isKeyword);
+  if (to.names != from.names)
+    add(to.names->plainWords.isKeyword);
+  if (tested != nullptr && tested != from.names) {
+    unless |= tested->plainWords.notRead;
+    add(tested->plainWords.isKeyword);
+  }
   if (to.setting.reserved != nullptr)
     add(*to.setting.reserved);
   *end = nullptr;
