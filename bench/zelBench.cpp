@@ -1,4 +1,5 @@
 // The table of benchmarks: for each kind of work, ns a name and the ratio to the floor, beside the target.
+#include "columns.h"
 #include "measure.h"
 #include "zel.h"
 
@@ -237,5 +238,6 @@ int main(int argc, char **argv) {
   otherSpaces();
   growth("plain, Verilog -> VHDL", "Verilog", "VHDL", false, 0.3);
   growth("escaped, Spef -> Verilog", "Spef", "Verilog", true, 1.3);
+  columnRows(wanted);
   return 0;
 }

@@ -166,7 +166,7 @@ Bytes LevelPath::map(Bytes given, const Route &route) {
     return refuseAt(0, ZEL_REASON_EMPTY);
   if (given.size() > longest)
     return refuseAt(longest, ZEL_REASON_TOO_LONG);
-  if ((route.printFlags & wholePathFlags) != 0)
+  if ((route.printFlags & Route::wholePathFlags) != 0)
     return refuseAt(0, ZEL_REASON_NOT_WRITABLE);
 
   refusal = {};

@@ -13,9 +13,6 @@ class LevelPath {
 public:
   static constexpr std::size_t longest = 2 * maxName;
 
-  // What levels alone do not say.
-  static constexpr std::uint32_t wholePathFlags = ZEL_PRINT_GROUP | ZEL_PRINT_TOP;
-
   // Why and where the path was refused.
   zelRefusal refusal = {};
 

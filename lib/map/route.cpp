@@ -46,11 +46,11 @@ void Route::join() {
   if (to.setting.reserved != nullptr)
     add(*to.setting.reserved);
   *end = nullptr;
+  const bool hasElements = from.element != '\0' || to.element != '\0';
+  takesPlainWords = takesWords() && (printFlags & wholePathFlags) == 0 && !(hasElements && isElement(true));
   if (from.language != nullptr && to.language != nullptr) {
-    constexpr std::uint32_t wholePathFlags = ZEL_PRINT_GROUP | ZEL_PRINT_TOP;
     const bool hasPins = kind == ZEL_KIND_PIN && (from.pinDelimiter != '\0' || to.pinDelimiter != '\0');
-    takesPlainPaths =
-        takesWords() && from.element == '\0' && to.element == '\0' && !hasPins && (printFlags & wholePathFlags) == 0;
+    takesPlainPaths = takesWords() && !hasElements && !hasPins && (printFlags & wholePathFlags) == 0;
     expandsRanges = (printFlags & ZEL_PRINT_EXPLODE) != 0;
     takesRanges = from.language->hasPlainRanges && (to.language->hasPlainRanges || expandsRanges);
   }

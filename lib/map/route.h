@@ -32,6 +32,9 @@ struct Side {
 
 // From one side to the other, with what the pair asks of a word that stands as it is.
 struct Route {
+  // What levels alone do not say.
+  static constexpr std::uint32_t wholePathFlags = ZEL_PRINT_GROUP | ZEL_PRINT_TOP;
+
   Side from;
   Side to;
   const Operations *tested = nullptr; // as whose names a path's names must be legal, besides; or null
@@ -39,6 +42,7 @@ struct Route {
   std::int32_t kind = ZEL_KIND_NET;
   std::int32_t levels = ZEL_LEVELS_ALL;
   Traits unless = 0;
+  bool takesPlainWords = false;       // as a whole text
   bool takesPlainPaths = false;       // see PlainPath
   bool takesRanges = false;           // in a plain path
   bool expandsRanges = false;         // to bits

@@ -16,10 +16,8 @@ Bytes refused(zelRefusal &refusal, std::int32_t reason, std::size_t position) {
 
 // Whether a text is one word that stands as it is, a name or a path of one level.
 bool isPlainWord(const Route &route, const Name &text) {
-  const bool isElement = (route.from.element != '\0' || route.to.element != '\0') && route.isElement(true);
-  return !isElement && (route.printFlags & LevelPath::wholePathFlags) == 0 && route.takesWords() && text.isWord() &&
-         isNameLength(text) && !text.has(route.unless) && !hasPrefix(text.look.traits, text.head()) &&
-         !route.isKeyword(text, text.head());
+  return route.takesPlainWords && !text.has(route.unless | traitOther) && isNameLength(text) &&
+         !hasPrefix(text.look.traits, text.head()) && !route.isKeyword(text, text.head());
 }
 
 // One name, with its element letter where it has one.
@@ -165,6 +163,14 @@ Bytes zeli::mapText(const zelMappingRecord &mapping, const Route &route, Bytes t
   return mapPath(route, handle, text, work, refusal);
 }
 
+[[gnu::noinline]] static char *applyStrictly(const zelMappingRecord &mapping, Bytes given, zelAllocFunc alloc,
+                                             void *context) {
+  MappingWork work;
+  zelRefusal refusal = {};
+  const Bytes result = mapText(mapping, mapping.route, given, work, refusal);
+  return finish(result, refusal, work, alloc, context);
+}
+
 char *zelMappingApply(zelMapping mapping, const char *text, zelAllocFunc alloc, void *context) noexcept {
   if (mapping == nullptr || text == nullptr) {
     errno = EINVAL;
@@ -172,10 +178,10 @@ char *zelMappingApply(zelMapping mapping, const char *text, zelAllocFunc alloc, 
   }
   if (mapping->isLenient)
     return applyLeniently(*mapping, text, alloc, context);
-  MappingWork work;
-  zelRefusal refusal = {};
-  const Bytes result = mapText(*mapping, mapping->route, {text, strnlen(text, LevelPath::longest + 1)}, work, refusal);
-  return finish(result, refusal, work, alloc, context);
+  const Bytes given(text, strnlen(text, LevelPath::longest + 1));
+  if (alloc == nullptr && isPlainWord(mapping->route, Name(given, lookHere(given))))
+    return makeString(given, alloc, context);
+  return applyStrictly(*mapping, given, alloc, context);
 }
 
 std::int32_t zelDiagnose(zelMapping mapping, const char *text, zelRefusal *refusal) noexcept {
