@@ -43,7 +43,9 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
   if (start == end)
     return false;
   const std::uint64_t head = headOf(path, start, end);
-  const Traits traits = firstTraits.of[head & 0xFF] | (path[end - 1] == '_' ? Traits{traitUnderscoreLast} : Traits{});
+  if ((route.unless & traitUnderscoreLast) != 0 && path[end - 1] == '_')
+    return false;
+  const Traits traits = firstTraits.of[head & 0xFF];
   return (traits & route.unless) == 0 && !hasPrefix(traits, head) &&
          !route.isKeyword(Bytes(path.data() + start, end - start), head);
 }
