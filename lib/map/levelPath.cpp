@@ -84,9 +84,14 @@ bool LevelPath::readBus(const Route &route, std::size_t open, Bus &bus) {
 bool LevelPath::mapBus(const Route &route, std::size_t open, const Bus &bus) {
   const Punctuation &marks = route.to.marks;
   const bool isDirected = bus.isRange && !route.to.language->hasPlainRanges;
-  if (bus.isRange && (route.printFlags & ZEL_PRINT_EXPLODE) != 0) {
-    refuseAt(open, ZEL_REASON_NOT_WRITABLE);
-    return false;
+  if (bus.isRange && route.expandsRanges) {
+    if (rangeCount == mostRanges) {
+      refuseAt(open, ZEL_REASON_NOT_WRITABLE);
+      return false;
+    }
+    ranges[rangeCount++] = {written + 1, static_cast<std::int32_t>(bus.first), static_cast<std::int32_t>(bus.last)};
+    rangeOpen = open;
+    return put(open, Spelled({}, marks.busOpen, marks.busClose));
   }
   if (bus.isAsPrinted && !isDirected)
     return put(open, Spelled(Bytes(begin() + open + 1, bus.end - open - 2), marks.busOpen, marks.busClose));
@@ -170,6 +175,7 @@ Bytes LevelPath::map(Bytes given, const Route &route) {
     return refuseAt(0, ZEL_REASON_NOT_WRITABLE);
 
   refusal = {};
+  rangeCount = 0;
   PlainPath plain;
   if (plain.read(given, route)) {
     plain.copyTo(respelled);
@@ -216,10 +222,17 @@ Bytes LevelPath::map(Bytes given, const Route &route) {
     start = markPlace + 1;
   }
 
-  if (!isDivided || !to.language->isIntroduced)
-    return {respelled + 1, written};
-  if (written == maxName)
-    return refuseAt(0, ZEL_REASON_RESULT_TOO_LONG);
-  respelled[0] = to.marks.divider;
-  return {respelled, written + 1};
+  Bytes result(respelled + 1, written);
+  if (isDivided && to.language->isIntroduced) {
+    if (written == maxName)
+      return refuseAt(0, ZEL_REASON_RESULT_TOO_LONG);
+    respelled[0] = to.marks.divider;
+    result = {respelled, written + 1};
+    for (std::size_t i = 0; i < rangeCount; ++i)
+      ++ranges[i].place;
+  }
+  if (rangeCount == 0)
+    return result;
+  const std::size_t expandedSize = expandRanges(result, ranges, rangeCount, text);
+  return expandedSize == 0 ? refuseAt(rangeOpen, ZEL_REASON_RESULT_TOO_LONG) : Bytes(text, expandedSize);
 }

@@ -4,6 +4,7 @@
 #ifndef ZEL_MAP_LEVELPATH_H
 #define ZEL_MAP_LEVELPATH_H
 
+#include "map/expandRanges.h"
 #include "map/route.h"
 
 namespace zeli {
@@ -32,6 +33,12 @@ private:
 
   std::size_t size = 0;
   std::size_t written = 0;
+
+  // Those to be expanded, and the bracket of the last.
+  std::size_t rangeCount = 0;
+  std::size_t rangeOpen = 0;
+  RangePlace ranges[mostRanges];
+
   char text[longest + 1];      // with a NUL behind it
   char respelled[1 + maxName]; // behind room for one mark
 

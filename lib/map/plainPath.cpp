@@ -1,7 +1,5 @@
 #include "map/plainPath.h"
 
-#include "path/zelPath.h"
-
 namespace zeli {
 
 namespace {
@@ -113,7 +111,7 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
   return false;
 }
 
-// Writes the path with each number of the range between the brackets of text; false where that is too much.
+// Expands the range between the brackets of text; false where that is too much.
 bool PlainPath::expand(std::size_t open, std::size_t close) {
   const auto numberAt = [this](std::size_t &at) {
     std::int32_t number = 0;
@@ -122,36 +120,15 @@ bool PlainPath::expand(std::size_t open, std::size_t close) {
     return number;
   };
   std::size_t at = open + 1;
-  std::int32_t number = numberAt(at);
-  const std::int32_t last = numberAt(++at);
-  const std::int32_t step = number <= last ? 1 : -1;
+  RangePlace range = {levelsSize() - text.size() + at, numberAt(at), 0};
+  range.last = numberAt(++at);
 
-  // The path without the range, the ends of which stand around a comma between two numbers.
   char levels[maxName + 1];
   copyLevels(levels);
-  const std::size_t before = open + 1 + (isIntroduced ? 1 : 0);
   const std::size_t behind = text.size() - close;
-  char between[maxName + 1 + blockBytes];
-  std::memcpy(between, levels + levelsSize() - behind, behind);
-  between[behind] = ',';
-  std::memcpy(between + behind + 1, levels, before);
-
-  std::memcpy(expanded, levels, before);
-  char *out = expanded + before;
-  for (;; number += step) {
-    out = writeNumber(out, number);
-    if (number == last)
-      break;
-    if (static_cast<std::size_t>(out - expanded) + behind + 1 + before > maxName)
-      return false;
-    for (std::size_t i = 0; i < behind + 1 + before; i += blockBytes)
-      storeBlock(out + i, loadBlock(between + i));
-    out += behind + 1 + before;
-  }
-  expandedSize = static_cast<std::size_t>(out - expanded) + behind;
-  isExpanded = expandedSize <= maxName;
-  if (isExpanded)
-    std::memcpy(out, between, behind);
+  std::memmove(levels + range.place, levels + levelsSize() - behind, behind);
+  expandedSize = expandRanges({levels, range.place + behind}, &range, 1, expanded);
+  isExpanded = expandedSize != 0;
   return isExpanded;
 }
 

@@ -3,6 +3,7 @@
 #ifndef ZEL_MAP_PLAINPATH_H
 #define ZEL_MAP_PLAINPATH_H
 
+#include "map/expandRanges.h"
 #include "map/route.h"
 
 namespace zeli {
@@ -34,7 +35,7 @@ private:
   bool isExpanded;   // a range was, to single bits
 
   std::size_t expandedSize;
-  char expanded[maxName + 3 * blockBytes];
+  char expanded[expandedRoom];
 
   std::size_t levelsSize() const { return text.size() + (isIntroduced ? 1 : 0); }
   void copyLevels(char *to) const;
