@@ -222,7 +222,7 @@ struct Spelled {
   char open; // both NUL, or none
   char close;
 
-  // NOLINTNEXTLINE(google-explicit-constructor): most spellings are but text
+  // cppcheck-suppress noExplicitConstructor ; most spellings are but text
   Spelled(Bytes text, char openMark = '\0', char closeMark = '\0')
       : data(text.data()), length(static_cast<std::uint32_t>(text.size())), open(openMark), close(closeMark) {}
 

@@ -80,6 +80,7 @@ zelHandle zelAllocHandle(const char *spaceName, std::uint32_t pinDelimiter, std:
   const zelHandleRecord record = {madeHandle, language, chosen, names, nullptr, &language->names.pathNameBytes};
   if (isFlat)
     return new (memory) zelHandleRecord(record);
+  // cppcheck-suppress unreadVariable ; the two members behind it are read through it
   auto *made = new (memory) Made{record, pathNameBytes(language->names.stops, chosen), names->rulesUnder(chosen)};
   made->record.rules = &made->rules;
   made->record.pathNameBytes = &made->pathNameBytes;

@@ -28,16 +28,16 @@ Bytes LevelPath::refuseAt(std::size_t position, std::int32_t reason) {
 
 // Where the name at start ends.
 std::size_t LevelPath::nameEnd(const Route &route, std::size_t start) {
-  const Side &from = route.from;
-  if (from.ownNames == nullptr)
-    return static_cast<std::size_t>(from.language->names.scan(begin() + start, from.setting.handle) - begin());
+  const Side &source = route.from;
+  if (source.ownNames == nullptr)
+    return static_cast<std::size_t>(source.language->names.scan(begin() + start, source.setting.handle) - begin());
   // SPICE with brackets: an index is one only at the end of a level.
   std::size_t open = 0;
   std::size_t end = start;
-  for (char c = begin()[end]; c != '\0' && c != from.marks.divider; c = begin()[++end]) {
+  for (char c = begin()[end]; c != '\0' && c != source.marks.divider; c = begin()[++end]) {
     if (c == '\\' && begin()[end + 1] != '\0')
       ++end;
-    else if (c == from.marks.busOpen)
+    else if (c == source.marks.busOpen)
       open = end;
   }
   Bus bus;
@@ -116,10 +116,10 @@ bool LevelPath::put(std::size_t place, const Spelled &spelled) {
 
 // Reads the name of a level, and writes it behind what stands before it.
 bool LevelPath::respell(const Route &route, std::size_t start, std::size_t end, bool isElement) {
-  const Side &from = route.from;
+  const Side &source = route.from;
   std::size_t nameStart = start;
-  if (isElement && from.element != '\0') {
-    if (start == end || toLower(begin()[start]) != toLower(from.element)) {
+  if (isElement && source.element != '\0') {
+    if (start == end || toLower(begin()[start]) != toLower(source.element)) {
       refuseAt(start, ZEL_REASON_NO_ELEMENT_LETTER);
       return false;
     }
@@ -137,20 +137,20 @@ bool LevelPath::respell(const Route &route, std::size_t start, std::size_t end, 
     return put(nameStart, name);
 
   const auto refuseName = [&](const Operations *names) {
-    const zelRefusal inside = from.explain(*names, name);
+    const zelRefusal inside = source.explain(*names, name);
     refuseAt(nameStart + inside.position, inside.reason);
     return false;
   };
-  if (!beginsName(from, name.front())) {
+  if (!beginsName(source, name.front())) {
     refuseAt(nameStart, ZEL_REASON_ILLEGAL_FIRST_CHARACTER);
     return false;
   }
-  if (route.tested != nullptr && !route.tested->isLegal(name, from.setting))
+  if (route.tested != nullptr && !route.tested->isLegal(name, source.setting))
     return refuseName(route.tested);
   Text readWork;
-  const Ident ident = from.read(name, readWork);
+  const Ident ident = source.read(name, readWork);
   if (ident.body.data() == nullptr)
-    return refuseName(from.names);
+    return refuseName(source.names);
   if (!isNameLength(ident.body)) {
     refuseAt(nameStart, ident.body.empty() ? ZEL_REASON_NOT_CONVERTED : ZEL_REASON_TOO_LONG);
     return false;
@@ -165,8 +165,8 @@ bool LevelPath::respell(const Route &route, std::size_t start, std::size_t end, 
 }
 
 Bytes LevelPath::map(Bytes given, const Route &route) {
-  const Side &from = route.from;
-  const Side &to = route.to;
+  const Side &source = route.from;
+  const Side &target = route.to;
   if (given.empty())
     return refuseAt(0, ZEL_REASON_EMPTY);
   if (given.size() > longest)
@@ -194,7 +194,7 @@ Bytes LevelPath::map(Bytes given, const Route &route) {
   for (;;) {
     const std::size_t end = nameEnd(route, start);
     Bus bus = {};
-    const bool hasBus = begin()[end] == from.marks.busOpen && from.marks.busOpen != '\0';
+    const bool hasBus = begin()[end] == source.marks.busOpen && source.marks.busOpen != '\0';
     if (hasBus && !readBus(route, end, bus))
       return {};
     const std::size_t markPlace = hasBus ? bus.end : end;
@@ -204,29 +204,29 @@ Bytes LevelPath::map(Bytes given, const Route &route) {
       return refuseAt(markPlace, ZEL_REASON_ILLEGAL_CHARACTER);
 
     if (isLast && start != first && (sawPin || route.kind == ZEL_KIND_PIN))
-      respelled[written] = to.pinDelimiter != '\0' ? to.pinDelimiter : to.marks.divider;
+      respelled[written] = target.pinDelimiter != '\0' ? target.pinDelimiter : target.marks.divider;
     if (!respell(route, start, end, route.isElement(isLast)) || (hasBus && !mapBus(route, end, bus)))
       return {};
     if (isLast)
       break;
 
-    const bool isPin = mark == from.pinDelimiter && from.pinDelimiter != '\0';
-    if (!isPin && mark != from.marks.divider)
+    const bool isPin = mark == source.pinDelimiter && source.pinDelimiter != '\0';
+    if (!isPin && mark != source.marks.divider)
       return refuseAt(markPlace, ZEL_REASON_UNEXPECTED_CHARACTER);
     if (sawPin)
       return refuseAt(markPlace, ZEL_REASON_SECOND_PIN_DELIMITER);
     sawPin = isPin;
-    if (!put(markPlace, Bytes(&to.marks.divider, 1)))
+    if (!put(markPlace, Bytes(&target.marks.divider, 1)))
       return {};
     isDivided = true;
     start = markPlace + 1;
   }
 
   Bytes result(respelled + 1, written);
-  if (isDivided && to.language->isIntroduced) {
+  if (isDivided && target.language->isIntroduced) {
     if (written == maxName)
       return refuseAt(0, ZEL_REASON_RESULT_TOO_LONG);
-    respelled[0] = to.marks.divider;
+    respelled[0] = target.marks.divider;
     result = {respelled, written + 1};
     for (std::size_t i = 0; i < rangeCount; ++i)
       ++ranges[i].place;

@@ -37,9 +37,12 @@ private:
   // Those to be expanded, and the bracket of the last.
   std::size_t rangeCount = 0;
   std::size_t rangeOpen = 0;
+  // cppcheck-suppress uninitMemberVarPrivate ; what is large is deliberately not cleared for every path
   RangePlace ranges[mostRanges];
 
-  char text[longest + 1];      // with a NUL behind it
+  // cppcheck-suppress uninitMemberVarPrivate
+  char text[longest + 1]; // with a NUL behind it
+  // cppcheck-suppress uninitMemberVarPrivate
   char respelled[1 + maxName]; // behind room for one mark
 
   char *begin() { return text; }

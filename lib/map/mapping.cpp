@@ -93,6 +93,7 @@ bool areSeparators(const Separators &separators, bool hasPins, bool isLayout) {
 
 // Sets up one side for paths of a language. Where the file may redefine its separators, the side gets a handle of its
 // own, in made.
+// cppcheck-suppress constParameter ; its marks are set
 bool setSeparators(Side &side, SpaceId space, const zelMappingSeparators &given, bool isLenient,
                    ChosenSeparators *&made, const Complaint &complain) {
   const PathLanguage &language = *side.language;

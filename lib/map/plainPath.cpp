@@ -61,9 +61,9 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
     return false;
   enum { inName, inFirst, inLast, behindBus } state = inName;
   bool isDivided = false;
-  std::size_t start = first; // of the word or number
-  std::size_t open = 0;      // the last bracket
-  std::size_t rangeOpen = 0; // the bracket of a range that is expanded ...
+  std::size_t partStart = first; // of the word or number
+  std::size_t open = 0;          // the last bracket
+  std::size_t rangeOpen = 0;     // the bracket of a range that is expanded ...
   std::size_t rangeClose = 0;
   for (std::size_t i = 0; i < path.size(); i += 64)
     for (std::uint64_t bits = marksFrom(path, i); bits != 0; bits &= bits - 1) {
@@ -72,21 +72,21 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
         continue;
       const char mark = path[at];
       if (mark == from.divider) {
-        if (state == inName ? !takesWord(route, path, start, at) : state != behindBus || start != at)
+        if (state == inName ? !takesWord(route, path, partStart, at) : state != behindBus || partStart != at)
           return false;
         state = inName;
         isDivided = true;
         if (rangeClose == 0) // a range to be expanded is no level that stands
           text = Bytes(text.data(), at + 1 - first);
       } else if (mark == from.busOpen && mark != '\0' && to.busOpen != '\0') {
-        if (state != inName || !takesWord(route, path, start, at))
+        if (state != inName || !takesWord(route, path, partStart, at))
           return false;
         state = inFirst;
         open = at;
       } else {
         const bool isRange = mark == ':' && state == inFirst && route.takesRanges;
         const bool isEnd = mark == from.busClose && (state == inFirst || state == inLast);
-        if (!(isRange || isEnd) || !takesNumber(path, start, at))
+        if (!(isRange || isEnd) || !takesNumber(path, partStart, at))
           return false;
         if (state == inLast && route.expandsRanges) {
           if (rangeClose != 0)
@@ -96,9 +96,10 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
         }
         state = isRange ? inLast : behindBus;
       }
-      start = at + 1;
+      partStart = at + 1;
     }
-  if (state == inName ? !takesWord(route, path, start, path.size()) : state != behindBus || start != path.size())
+  if (state == inName ? !takesWord(route, path, partStart, path.size())
+                      : state != behindBus || partStart != path.size())
     return false;
   if (isDivided && route.to.language->isIntroduced && path.size() - first == maxName)
     return false;
@@ -113,21 +114,21 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
 
 // Expands the range between the brackets of text; false where that is too much.
 bool PlainPath::expand(std::size_t open, std::size_t close) {
-  const auto numberAt = [this](std::size_t &at) {
+  const auto readNumber = [this](std::size_t &at) {
     std::int32_t number = 0;
     for (; digit.has(text[at]); ++at)
       number = number * 10 + (text[at] - '0');
     return number;
   };
   std::size_t at = open + 1;
-  RangePlace range = {levelsSize() - text.size() + at, numberAt(at), 0};
-  range.last = numberAt(++at);
+  RangePlace asked = {levelsSize() - text.size() + at, readNumber(at), 0};
+  asked.last = readNumber(++at);
 
   char levels[maxName + 1];
   copyLevels(levels);
   const std::size_t behind = text.size() - close;
-  std::memmove(levels + range.place, levels + levelsSize() - behind, behind);
-  expandedSize = expandRanges({levels, range.place + behind}, &range, 1, expanded);
+  std::memmove(levels + asked.place, levels + levelsSize() - behind, behind);
+  expandedSize = expandRanges({levels, asked.place + behind}, &asked, 1, expanded);
   isExpanded = expandedSize != 0;
   return isExpanded;
 }

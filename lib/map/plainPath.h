@@ -12,6 +12,7 @@ namespace zeli {
 // its capitals and "__" are asked elsewhere.
 bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t end);
 
+// cppcheck-suppress noConstructor ; it is read before anything is asked
 class PlainPath {
 public:
   // Whether path, which is not empty, is such a one. If not, what follows is about its levels, each with the mark
@@ -24,7 +25,7 @@ public:
   // The levels in the other language, which copyTo puts where there is room for so much. That may be where the path
   // lies.
   std::size_t size() const { return isExpanded ? expandedSize : levelsSize(); }
-  void copyTo(char *to) const;
+  void copyTo(char *result) const;
 
 private:
   Bytes text;
@@ -38,7 +39,7 @@ private:
   char expanded[expandedRoom];
 
   std::size_t levelsSize() const { return text.size() + (isIntroduced ? 1 : 0); }
-  void copyLevels(char *to) const;
+  void copyLevels(char *result) const;
   bool expand(std::size_t open, std::size_t close);
 };
 

@@ -41,7 +41,7 @@ zelRefusal BackslashRules::explain(const Name &name) const {
     return refuseIdent();
   if (isWord(name))
     return identByCase(name);
-  if (const Ident ident = readQuoted(name, work); ident.body.data() != nullptr)
+  if (Ident ident = readQuoted(name, work); ident.body.data() != nullptr)
     return ident;
   const Unquoted unquoted = unquote(work, name);
   return unquoted.isLegal ? identOfUnquoted(name, unquoted.roles, work) : refuseIdent();
@@ -118,8 +118,8 @@ Ident BackslashRules::identOfUnquoted(const Name &name, unsigned rolesSeen, Text
   if (quotesWords)
     return identByCase(Name(work.view()));
   // The words in the name are those of its body.
-  const int kinds =
-      (rolesSeen & backslashRole ? traitBackslash : 0) | (rolesSeen & notGraphicRole ? traitNotGraphic : 0);
+  const int kinds = ((rolesSeen & backslashRole) != 0 ? traitBackslash : 0) |
+                    ((rolesSeen & notGraphicRole) != 0 ? traitNotGraphic : 0);
   return identByCase({work.view(), static_cast<Traits>((name.look.traits & ~kindsOfOther) | kinds)});
 }
 

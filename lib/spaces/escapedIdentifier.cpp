@@ -43,9 +43,9 @@ zelRefusal EscapedIdentifierRules::explain(const Name &name) const {
       return ident.body;
     if (folds) {
       copyLowered(work, ident.body);
-      const Name lowered(work.view(), 0);
-      if (!isKeyword(lowered) && !setting.isReserved(lowered))
-        return lowered;
+      const Name folded(work.view(), 0);
+      if (!isKeyword(folded) && !setting.isReserved(folded))
+        return folded;
       work.size = 0;
     }
   }

@@ -132,7 +132,7 @@ struct KirraRules : BackslashRules {
     Name unprefixed = name;
     if (startsWith(name, keywordPrefix) && needsPrefix(from(name, keywordPrefix.size())))
       unprefixed = Name(from(name, keywordPrefix.size()));
-    if (const Ident ident = unprefixed.isWord() ? Ident{} : readQuoted(unprefixed, work); ident.body.data() != nullptr)
+    if (Ident ident = unprefixed.isWord() ? Ident{} : readQuoted(unprefixed, work); ident.body.data() != nullptr)
       return ident;
     // A backslash that quotes nothing is refused, other than a faulty argument without setting errno.
     if (unprefixed.has(traitBackslash) && !holdsOnly(anyByte - chars("\\"), unprefixed, 0, unprefixed.size()))

@@ -91,7 +91,7 @@ struct EscORKARules {
     return name[0] == '\\' ? isLegalExtended(name, readerEscape.literal) : rules.isLegal(name);
   }
 
-  zelRefusal explain(const Name &name) const {
+  static zelRefusal explain(const Name &name) {
     if (isExtended(name) || name.empty() || name[0] != '\\')
       return rules.explain(name);
     return {ZEL_REASON_UNTERMINATED_ESCAPE, static_cast<std::uint32_t>(name.size())};

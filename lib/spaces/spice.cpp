@@ -56,7 +56,7 @@ struct SpiceRules : BackslashRules {
   Ident read(const Name &name, const Setting &, Text &work) const {
     // A backslash in front is a first character.
     if (!name.isWord() && isNameLength(name) && name[0] != '\\')
-      if (const Ident ident = readQuoted(name, work); ident.body.data() != nullptr)
+      if (Ident ident = readQuoted(name, work); ident.body.data() != nullptr)
         return ident;
     return isLegal(name) ? readLegal(name, work) : refuseIdent();
   }

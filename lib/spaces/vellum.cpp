@@ -90,18 +90,18 @@ Bytes writeNormal(const Name &body, Text &work) {
 struct VellumRules {
   static constexpr PlainWords plainWords() { return {0, traitUpper, 0, 'I'}; }
 
-  bool isLegal(const Name &name) const {
+  static bool isLegal(const Name &name) {
     return isNameLength(name) &&
            (name.isWord() || (name[0] == '\\' ? isLegalExtended(name, escape.literal) : isNormal(name)));
   }
 
-  zelRefusal explain(const Name &name) const {
+  static zelRefusal explain(const Name &name) {
     return explainLength(name, [&] { return explainFirst(name, 0, escape.literal); });
   }
 
   // Only a name between backslashes has case. In the mapping state MATCH none needs it, and the force prefix alone
   // tells that a name stood between them.
-  Spelled write(const Ident &ident, const Setting &setting, Text &work) const {
+  static Spelled write(const Ident &ident, const Setting &setting, Text &work) {
     const bool keepsCase = mapStateOf(setting) == ZEL_MAP_MATCH && ident.marker != 'F';
     if (ident.isCaseSensitive() && (keepsCase ? isForce(ident.body) : ident.body.has(traitUpper)))
       return writeExtended(work, ident.body, escape, extended, false);

@@ -10,8 +10,9 @@ void expectParsed(const char *file, int line, const char *table) {
     for (const std::string &source : wordsOf(row.heading))
       for (const std::string &text : isEach ? wordsOf(row.cells[1]) : std::vector{row[0]}) {
         const Path path = parse(source, text.c_str());
-        row.expect(row[isEach ? 2 : 1], itemsOf(path.get()), text + " of " + source);
-        row.expect(row[isEach ? 3 : 2], flagsOf(path.get()), text + " of " + source);
+        const std::string where = std::string(text).append(" of ").append(source);
+        row.expect(row[isEach ? 2 : 1], itemsOf(path.get()), where);
+        row.expect(row[isEach ? 3 : 2], flagsOf(path.get()), where);
       }
   }
 }

@@ -71,12 +71,15 @@ TEST(Keywords, areFoundWhereTheSearchPasses) {
             std::count(reserving.begin(), reserving.end(), name == "VHDL in mode 87" ? "VHDL87" : name) != 0;
         std::string capitals = word;
         std::transform(word.begin(), word.end(), capitals.begin(), [](char c) { return std::toupper(c); });
-        row.expect(state(isReserved), state(language.isKeyword(word.c_str())), word + " of " + name);
+        const auto named = [&](std::string what) { return what.append(" of ").append(name); };
+        const std::string longer = std::string(word).append("_");
+        row.expect(state(isReserved), state(language.isKeyword(word.c_str())), named(word));
         row.expect(state(isReserved && language.ignoresCase), state(language.isKeyword(capitals.c_str())),
-                   capitals + " of " + name);
-        row.expect(state(0), state(language.isKeyword((word + "_").c_str())), word + "_ of " + name);
+                   named(capitals));
+        row.expect(state(0), state(language.isKeyword(longer.c_str())), named(longer));
         if (language.isNormal != nullptr)
-          row.expect(state(isReserved), state(1 - language.isNormal(word.c_str())), word + " as a name of " + name);
+          row.expect(state(isReserved), state(1 - language.isNormal(word.c_str())),
+                     named(std::string("no name: ").append(word)));
       }
   }
 }

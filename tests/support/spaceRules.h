@@ -40,7 +40,7 @@ inline void expectRules(const char *file, int line, const char *table) {
           row.expect("1", std::to_string(isLegal(row[2].c_str())), where + ", whether it is legal");
         if (row[0] == "legal" || row[0] == "illegal" || row[0] == "refused")
           for (const std::string &text : wordsOf(row.cells[1])) {
-            const std::string given = text + ", " + where;
+            const std::string given = std::string(text).append(", ").append(where);
             row.expect(row[0] == "legal" ? "1" : "0", std::to_string(isLegal(text.c_str())), given);
             row.expect("refused", row[0] == "refused" ? convert(read, text.c_str()) : "refused", given);
           }

@@ -55,20 +55,20 @@ private:
 
   void check(Block &block, std::size_t i, std::uint64_t number) {
     const Line &line = chosen[i];
-    Mapped mapped = texts[i];
+    Mapped read = texts[i];
     ++block.names;
     const std::size_t start = line.textBegin - line.begin;
     if (line.hasText && line.textBegin == line.textEnd)
-      mapped = {{}, ZEL_REASON_EMPTY, start};
-    else if (reserved != nullptr && mapped.reason == ZEL_REASON_NONE)
-      findReserved(i, mapped);
-    if (rules.hasTest && mapped.reason == ZEL_REASON_NONE)
-      test(i, mapped);
-    if (isLegal(mapped.reason))
+      read = {{}, ZEL_REASON_EMPTY, start};
+    else if (reserved != nullptr && read.reason == ZEL_REASON_NONE)
+      findReserved(i, read);
+    if (rules.hasTest && read.reason == ZEL_REASON_NONE)
+      test(i, read);
+    if (isLegal(read.reason))
       return;
     ++block.refusals.count;
     block.output.append(std::string(block.file) + ':' + std::to_string(number) + ':' +
-                        std::to_string(mapped.position + 1) + ": " + reasonText(mapped.reason) + '\n');
+                        std::to_string(read.position + 1) + ": " + reasonText(read.reason) + '\n');
   }
 
   // A word that only the revision reserves is spelt differently under it, unless it is so already.

@@ -170,6 +170,7 @@ int runMap(const MappingSettings &mappingSettings, const LineSettings &lineSetti
   std::uint64_t bytes = 0;
   bool hasFailed = false;
   runBlocks(
+      // cppcheck-suppress constParameter ; runBlocks gives blocks that may be changed
       lineSettings.files, format, std::move(works), [&](const LineReader &, Block &block) { return header(block); },
       [&](const LineReader &reader, Block &block) {
         bytes += block.size;

@@ -103,11 +103,13 @@ void runBlocks(const std::vector<std::string> &files, const LineFormat &format, 
     while (first != last && (last - first == ring.size() || pool.isDone(ring[first % ring.size()])))
       finishFirst();
     Block &block = ring[last % ring.size()];
+    // cppcheck-suppress knownConditionTrueFalse ; finishFirst ends it
     if (!goesOn || !reader.next(block) || !goesOn || !prepare(reader, block))
       break;
     ++last;
     pool.add(block);
   }
+  // cppcheck-suppress knownConditionTrueFalse
   while (first != last && goesOn)
     finishFirst();
   hasFailed = hasFailed || reader.hasFailed();
