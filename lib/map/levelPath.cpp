@@ -83,6 +83,10 @@ bool LevelPath::readBus(const Route &route, std::size_t open, Bus &bus) {
 
 bool LevelPath::mapBus(const Route &route, std::size_t open, const Bus &bus) {
   const Punctuation &marks = route.to.marks;
+  if (marks.busOpen == '\0') {
+    refuseAt(open, ZEL_REASON_NOT_WRITABLE);
+    return false;
+  }
   const bool isDirected = bus.isRange && !route.to.language->hasPlainRanges;
   if (bus.isRange && route.expandsRanges) {
     if (rangeCount == mostRanges) {

@@ -266,8 +266,15 @@ bool setOptions(zelMappingRecord &mapping, const zelMappingOptions &options, con
     mapping.printing = &printing;
     route.to.language = &printing;
     route.to.names = namesOf(printing.writer.names, isOfProcess);
+    const Punctuation &own = printing.writer.marks;
     if (back.ownNames == nullptr && printing.redefines != Redefines::everything)
-      route.to.marks = printing.writer.marks;
+      route.to.marks = own;
+    // SPICE writes an index also where no brackets make it one.
+    if (route.to.marks.busOpen == '\0' && own.busOpen != route.to.marks.divider &&
+        own.busClose != route.to.marks.divider) {
+      route.to.marks.busOpen = own.busOpen;
+      route.to.marks.busClose = own.busClose;
+    }
   }
   if (!mapping.isNames)
     route.tested = mapping.isLenient ? source->names.tested : testedOf(source, isOfProcess);

@@ -186,7 +186,7 @@ TEST(Mapping, answers) {
     Verilog Ascii                        a.b               @1 illegal character     // a name, for a space without paths
     LibraryUnix Verilog                  a-b               @1 illegal character
     Ident Verilog                        abc               @0 illegal first character
-    Verilog Spef kind=pin print=explode  a[1:0].B          @1 cannot be written in the target
+    Verilog Spice to=0[00                a[1]              @1 cannot be written in the target  // brackets that divide
     Verilog LibraryNT names              \a                @2 escaped identifier has no white space at its end
     // SPICE with separators, where an index is one only at the end of a level.
     Spice Verilog from=0/[]            in[4]_A    \in[4]_A␣  // a bit at the end of a level only
@@ -199,6 +199,7 @@ TEST(Mapping, answers) {
     Verilog Spice to=0/[]              \#23␣      \#23
     Verilog Spice to=0/[]              \a.b+c~d␣  a.b+c\~d
     Verilog Spice to=0/00              \a[3]␣     a[3]       // brackets that are not in force stand as they are
+    Verilog Spice to=0/00              a[3]       a[3]       // an index is written all the same
     Spice Def element=X kind=instance  xa.Xb      a/b
     Spice Spice element=r kind=port    Ru1.n      ru1.n
     Spice Spice element=X levels=last kind=instance  u1.xu2     u1.Xu2
@@ -210,6 +211,8 @@ TEST(Mapping, answers) {
     Verilog Verilog                {a,b[3:0]}      {a,b[3:0]}
     Verilog Verilog                a␣.␣b␣[␣3␣]     a.b[3]
     Verilog Verilog print=explode  a[1:0]          a[1],a[0]
+    Verilog Spef kind=pin print=explode  a[1:0].\b/c␣[0:1]  a[1]:b\/c[0],a[1]:b\/c[1],a[0]:b\/c[0],a[0]:b\/c[1]
+    Verilog VHDL print=explode     u.a[1:0].b      :u:a(1):b,:u:a(0):b
     Verilog Verilog print=group    {a,b}           {{a,b}}
     Verilog ORKA print=top         a               /a
     VHDL Verilog                   :a(3␣downto␣0)  a[3:0]

@@ -30,10 +30,10 @@ void addChoice(CLI::App &command, const std::string &name, Value &value, const s
   command
       .add_option_function<std::string>(
           name,
-          [&value, &words, name](const std::string &word) {
+          [&value, &words, name, shown](const std::string &word) {
             const auto found = words.find(word);
             if (found == words.end())
-              throw CLI::ValidationError(name, "not one of its words: " + word);
+              throw CLI::ValidationError(name, word + " is none of " + shown);
             value = found->second;
           },
           description)
@@ -117,6 +117,9 @@ int run(int argc, char **argv) {
   CLI::App &spaces = *app.add_subcommand("spaces", "List the name spaces");
   spaces.footer("Example:\n  zel spaces");
 
+  const auto isAsked = [&](const CLI::App *command) { return command->get_name() == argv[1]; };
+  if (argc > 1 && argv[1][0] != '-' && app.get_subcommands(isAsked).empty())
+    throw Complaint{statusUsage, std::string("no command is called '") + argv[1] + "': map, explain, check, spaces"};
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError &error) {

@@ -126,7 +126,7 @@ bool Progress::finish(const LineReader &reader, const Block &block) {
 
 void Progress::end(bool hasStats, std::uint64_t bytes) {
   clearBar();
-  if (!isQuiet && showsLines && refused > Refusals::shown)
+  if (!failed && !isQuiet && showsLines && refused > Refusals::shown)
     std::fprintf(stderr, "zel: %llu lines are refused, %llu more than shown\n",
                  static_cast<unsigned long long>(refused), static_cast<unsigned long long>(refused - Refusals::shown));
   if (!hasStats)
