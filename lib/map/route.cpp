@@ -3,6 +3,7 @@
 #include "path/zelPathParse.h"
 
 #include <algorithm>
+#include <new>
 
 using namespace zeli;
 
@@ -58,12 +59,30 @@ void Route::join() {
     unless |= traitDigitFirst;
 }
 
-bool zeli::routeOf(zelHandle from, zelHandle to, std::uint32_t printFlags, Route &route) {
-  if (zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
-    return false;
+namespace {
+
+// The routes between the built-in handles without flags, which most paths take: constants, that cost as much as a short
+// path to put together, and so are kept once they have been.
+struct KnownRoute {
+  enum State : std::uint8_t { unknown, beingMade, known };
+  std::atomic<std::uint8_t> state;
+  RouteRoom room;
+};
+constexpr std::size_t codes = 17;
+KnownRoute knownRoutes[codes][codes];
+
+// Null for other handles.
+KnownRoute *knownRoute(zelHandle from, zelHandle to, std::uint32_t printFlags) {
+  const PathLanguage &source = *from->language;
+  const PathLanguage &target = *to->language;
+  const bool isBuiltIn = from == *source.handle && to == *target.handle && printFlags == 0;
+  return isBuiltIn ? &knownRoutes[source.code - 1][target.code - 1] : nullptr;
+}
+
+// Whether the route could be made.
+bool makeRoute(zelHandle from, zelHandle to, std::uint32_t printFlags, Route &route) {
   const PathLanguage &source = *from->language;
   const PathLanguage &target = printingLanguage(*to->language);
-  // Field by field: to put the sides together elsewhere first would cost as much as a short path.
   const auto set = [](Side &side, const PathLanguage &language, const Operations *names, zelHandle handle,
                       const Punctuation &fixed) {
     side.language = &language;
@@ -80,4 +99,26 @@ bool zeli::routeOf(zelHandle from, zelHandle to, std::uint32_t printFlags, Route
     return false;
   route.join();
   return true;
+}
+
+} // namespace
+
+const Route *zeli::routeOf(zelHandle from, zelHandle to, std::uint32_t printFlags, RouteRoom &room) {
+  if (zelMapState.load(std::memory_order_relaxed) != ZEL_MAP_DEFAULT)
+    return nullptr;
+  KnownRoute *const kept = knownRoute(from, to, printFlags);
+  if (kept != nullptr && kept->state.load(std::memory_order_acquire) == KnownRoute::known) {
+    const auto *route = std::launder(reinterpret_cast<const Route *>(kept->room.bytes));
+    const bool isPlain = handleInForce(*route->from.names) == nullptr && handleInForce(*route->to.names) == nullptr;
+    return isPlain ? route : nullptr;
+  }
+  auto *const made = new (room.bytes) Route;
+  if (!makeRoute(from, to, printFlags, *made))
+    return nullptr;
+  std::uint8_t state = KnownRoute::unknown;
+  if (kept != nullptr && kept->state.compare_exchange_strong(state, KnownRoute::beingMade, std::memory_order_relaxed)) {
+    new (kept->room.bytes) Route(*made);
+    kept->state.store(KnownRoute::known, std::memory_order_release);
+  }
+  return made;
 }

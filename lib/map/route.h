@@ -72,9 +72,14 @@ struct Route {
   }
 };
 
-// The route of two handles as zelPathMapperEx takes it, and whether it may be taken: not while anything that the first
-// use of a setting determines is undetermined.
-bool routeOf(zelHandle from, zelHandle to, std::uint32_t printFlags, Route &route);
+// Where a route may be made.
+struct RouteRoom {
+  alignas(Route) unsigned char bytes[sizeof(Route)];
+};
+
+// The route of two handles as zelPathMapperEx takes it, one that is kept or in the room. Null when none may be taken:
+// while anything that the first use of a setting determines is undetermined.
+const Route *routeOf(zelHandle from, zelHandle to, std::uint32_t printFlags, RouteRoom &room);
 
 } // namespace zeli
 

@@ -32,14 +32,14 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
   if (from == nullptr || to == nullptr)
     return nullptr;
   if (text != nullptr) {
-    Route route;
+    RouteRoom room;
     LevelPath levels;
-    if (routeOf(from, to, flags, route)) {
+    if (const Route *route = routeOf(from, to, flags, room); route != nullptr) {
       const Bytes path(text, strnlen(text, LevelPath::longest + 1));
       // An allocator of the caller's may write where the path lies.
-      if (PlainPath plain; alloc == nullptr && plain.read(path, route))
+      if (PlainPath plain; alloc == nullptr && plain.read(path, *route))
         return makePath(plain, context);
-      if (const Bytes result = levels.map(path, route); result.data() != nullptr)
+      if (const Bytes result = levels.map(path, *route); result.data() != nullptr)
         return makeString(result, alloc, context);
     }
   }

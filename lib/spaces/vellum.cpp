@@ -109,7 +109,7 @@ struct VellumRules {
   }
 
   // Between backslashes nothing is an escape.
-  Ident read(const Name &name, const Setting &, Text &work) const {
+  static Ident read(const Name &name, const Setting &, Text &work) {
     if (!isLegal(name))
       return refuseIdent();
     if (name[0] != '\\')
