@@ -121,8 +121,9 @@ bool isReadBack(const zelMappingOptions &options, const std::string &text, const
   for (size_t i = 0; i < text.size(); ++i)
     if (strchr("[<(", text[i]) != nullptr && (i == 0 || strchr("/.|:%;!]>)", text[i - 1]) != nullptr))
       return false;
-  return options.printFlags == 0 && text.size() <= ZEL_MAX_NAME / 4 && text.find("ESC_") == std::string::npos &&
-         text.find("KEYWORD_") == std::string::npos && text.find_first_of("{},&*( @") == std::string::npos &&
+  return options.printFlags == 0 && text.size() <= ZEL_MAX_NAME / 4 &&
+         (text + result).find("ESC_") == std::string::npos && text.find("KEYWORD_") == std::string::npos &&
+         text.find_first_of("{},&*( @") == std::string::npos &&
          (strcmp(options.from, "ORKA") != 0 || text.find('<') == std::string::npos) && // whose steps are lists
          !isOneOf(options.to, {"Kirra", "Vellum", "LibraryNT", "Spice", "VerilogAMS", "FlatTessel", "Spf"}) &&
          !(isOneOf(options.to, {"Lef", "Def"}) && std::any_of(result.begin(), result.end(), isControl));

@@ -137,6 +137,10 @@ bool LevelPath::respell(const Route &route, std::size_t start, std::size_t end, 
   if (isLettered && !put(start, Bytes(&route.to.element, 1)))
     return false;
   const Name name(Bytes(begin() + nameStart, end - nameStart));
+  if (name.size() > maxName) {
+    refuseAt(nameStart + maxName, ZEL_REASON_TOO_LONG);
+    return false;
+  }
   if (route.takesWords() && name.isWord() && !name.has(route.unless) && takesWord(route, name, 0, name.size()))
     return put(nameStart, name);
 

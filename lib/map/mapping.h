@@ -41,6 +41,7 @@ struct MappingWork {
   Text writeWork;
   char items[maxName + 1];
   char source[LevelPath::longest + 2]; // a text with a NUL behind it
+  char line[LevelPath::longest + 1];   // one whose end stands for white space
 };
 
 // Maps a text by one of the routes of a mapping; without data where it is refused.

@@ -71,7 +71,7 @@ bool takesWord(const Route &route, Bytes path, std::size_t start, std::size_t en
       if (at < first)
         continue;
       const char mark = path[at];
-      if (mark == from.divider) {
+      if (mark == from.divider && mark != '\0') {
         if (state == inName ? !takesWord(route, path, partStart, at) : state != behindBus || partStart != at)
           return false;
         state = inName;

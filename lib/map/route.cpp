@@ -51,7 +51,8 @@ void Route::join() {
   takesPlainWords = takesWords() && (printFlags & wholePathFlags) == 0 && !(hasElements && isElement(true));
   if (from.language != nullptr && to.language != nullptr) {
     const bool hasPins = kind == ZEL_KIND_PIN && (from.pinDelimiter != '\0' || to.pinDelimiter != '\0');
-    takesPlainPaths = takesWords() && !hasElements && !hasPins && (printFlags & wholePathFlags) == 0;
+    const bool isColonBracket = from.marks.busOpen == ':' || from.marks.busClose == ':'; // which also stands in ranges
+    takesPlainPaths = takesWords() && !hasElements && !hasPins && !isColonBracket && (printFlags & wholePathFlags) == 0;
     expandsRanges = (printFlags & ZEL_PRINT_EXPLODE) != 0;
     takesRanges = from.language->hasPlainRanges && (to.language->hasPlainRanges || expandsRanges);
   }

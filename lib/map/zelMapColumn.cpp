@@ -105,18 +105,11 @@ Bytes mapLine(const zelMappingRecord &mapping, Bytes line, MappingWork &work, ze
   const Bytes mapped = mapOne(mapping, line, work, refusal);
   if (mapped.data() != nullptr || refusal.reason != ZEL_REASON_NO_WHITE_SPACE || line.size() > LevelPath::longest)
     return mapped;
-  char blanked[LevelPath::longest + 1];
-  std::memcpy(blanked, line.data(), line.size());
-  blanked[line.size()] = ' ';
-  zelRefusal again = {};
-  const Bytes result = mapOne(mapping, {blanked, line.size() + 1}, work, again);
-  if (result.data() == nullptr)
-    return {};
-  refusal = {};
-  if (result.data() != blanked)
-    return result;
-  // What stands as it is stands in the line.
-  return {line.data(), line.size()};
+  std::memcpy(work.line, line.data(), line.size());
+  work.line[line.size()] = ' ';
+  const Bytes result = mapOne(mapping, {work.line, line.size() + 1}, work, refusal);
+  // The end of a name that stands as it is stays the end of the line.
+  return result.data() == work.line ? line : result;
 }
 
 } // namespace

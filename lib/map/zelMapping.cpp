@@ -83,6 +83,7 @@ Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &wor
                           .from = route.from.setting,
                           .written = route.to.names,
                           .to = route.to.setting,
+                          .tested = route.tested,
                           .indexEnd = areRepeatsBracketed(route) ? '\0' : route.from.marks.busClose};
   const int error = errno;
   errno = 0;
@@ -93,7 +94,9 @@ Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &wor
   else if (items != nullptr && *items == '\0')
     names.refuse(names.text, allOf(text, white) ? ZEL_REASON_EMPTY : ZEL_REASON_NOT_WRITABLE);
   errno = error;
-  refusal = names.refusal;
+  // A level knows better why it does not convert.
+  if (names.refusal.reason != ZEL_REASON_NOT_CONVERTED || names.refusal.position != refusal.position)
+    refusal = names.refusal;
   return refusal.reason == ZEL_REASON_NONE ? Bytes(items) : Bytes{};
 }
 
@@ -122,7 +125,8 @@ char *applyLeniently(const zelMappingRecord &mapping, const char *text, zelAlloc
   MappingWork work;
   zelRefusal refusal = {};
   if (mapping.isNames)
-    return finish(mapName(route, Name(nameBytes(text)), work, refusal), refusal, work, alloc, context);
+    return finish(mapName(route, Name(Bytes(text, strnlen(text, LevelPath::longest + 1))), work, refusal), refusal,
+                  work, alloc, context);
   if (areOwnMarks(route.from) && areOwnMarks(route.to)) {
     const Bytes result = work.levels.map({text, strnlen(text, LevelPath::longest + 1)}, route);
     if (result.data() != nullptr)

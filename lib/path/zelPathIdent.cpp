@@ -6,11 +6,12 @@
 using namespace zeli;
 
 Ident zeli::readText(const PathLanguage &language, const zelPathRecord *head, const char *text, const Operations &names,
-                     const Setting &setting, Text &work) {
+                     const Setting &setting, Text &work, const Operations *tested) {
   const auto length = static_cast<std::size_t>(language.names.scan(text, head->handle) - text);
   if (length > maxName)
     return refuseIdent();
-  return names.read(Name(Bytes(text, length)), setting, work);
+  const Name name(Bytes(text, length));
+  return tested == nullptr || tested->isLegal(name, setting) ? names.read(name, setting, work) : refuseIdent();
 }
 
 char *zeli::convertText(const PathLanguage &language, const zelPathRecord *head, const char *text) {

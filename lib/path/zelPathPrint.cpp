@@ -190,7 +190,8 @@ void PrintRun::putIdentAt(Cursor cursor) {
     if (transient->isBehindIndex(name))
       transient->refuse(name, ZEL_REASON_UNEXPECTED_CHARACTER);
     Text work;
-    const Ident ident = readText(*languageOf(path), path, name, *transient->read, transient->from, work);
+    const Ident ident =
+        readText(*languageOf(path), path, name, *transient->read, transient->from, work, transient->tested);
     leaveHandle(*transient->read);
     if (!putIdent(ident, *transient->written, transient->to))
       transient->refuse(name, ident.body.data() == nullptr ? ZEL_REASON_NOT_CONVERTED : ZEL_REASON_NOT_WRITABLE);

@@ -27,7 +27,8 @@ struct TransientNames {
   Setting from;
   const Operations *written;
   Setting to;
-  char indexEnd = '\0'; // behind which no name may stand without a divider; NUL where one may
+  const Operations *tested = nullptr; // as whose names they must be legal, too; or null
+  char indexEnd = '\0';               // behind which no name may stand without a divider; NUL where one may
   zelRefusal refusal = {};
 
   // The grammars begin a level there, which a name with brackets inside, a[3]_b, hardly means.

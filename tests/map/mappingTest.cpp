@@ -181,11 +181,12 @@ TEST(Mapping, answers) {
     Def Verilog                          a#b               @1 illegal character
     Lef Verilog                          a]b               @1 unexpected character
     Gcf Verilog                          a\                @1 nothing ends the escape or quote
-    Kirra Verilog                        1a                @0 cannot be converted
+    Kirra Verilog                        1a                @0 illegal first character
     Kirra Verilog                        a<1               @1 illegal character
     Verilog Ascii                        a.b               @1 illegal character     // a name, for a space without paths
     LibraryUnix Verilog                  a-b               @1 illegal character
     Ident Verilog                        abc               @0 illegal first character
+    VHDL87 Sdf                           :a:sra            @3 reserved word                 // whatever the VHDL mode
     Verilog Spice to=0[00                a[1]              @1 cannot be written in the target  // brackets that divide
     Verilog LibraryNT names              \a                @2 escaped identifier has no white space at its end
     // SPICE with separators, where an index is one only at the end of a level.
@@ -210,6 +211,7 @@ TEST(Mapping, answers) {
     // More than levels.
     Verilog Verilog                {a,b[3:0]}      {a,b[3:0]}
     Verilog Verilog                a␣.␣b␣[␣3␣]     a.b[3]
+    Sdf Verilog from=0/[:          a[1:3:          a[1:3]     // a bracket that ranges have, too
     Verilog Verilog print=explode  a[1:0]          a[1],a[0]
     Verilog Spef kind=pin print=explode  a[1:0].\b/c␣[0:1]  a[1]:b\/c[0],a[1]:b\/c[1],a[0]:b\/c[0],a[0]:b\/c[1]
     Verilog VHDL print=explode     u.a[1:0].b      :u:a(1):b,:u:a(0):b
@@ -244,6 +246,8 @@ TEST(Mapping, knowsLimits) {
   }
   EXPECT_EQ(toSpice.answer(longest), "@0 the result is longer than 2047 characters");
   EXPECT_EQ(toDef.answer(longest + ".a"), "@0 the result is longer than 2047 characters");
+  EXPECT_EQ(Mapping("Spef Verilog").answer("b/" + longest + 'n'), "@2049 the name is longer than 2047 characters");
+  EXPECT_EQ(Mapping("Ident Gcf lenient").answer('F' + longest + 'n'), "@0 the name is longer than 2047 characters");
   EXPECT_EQ(toDef.answer(std::string(5000, ' ') + "a"), "@4094 the name is longer than 2047 characters");
   // Where the second level, the rest, or the index no longer fits.
   EXPECT_EQ(toPin.answer(std::string(1500, 'n') + ".\\" + std::string(600, '[') + " ").substr(0, 13), "@1501 the res");
@@ -500,6 +504,9 @@ TEST(MapColumn, mapsTextByText) {
   const Mapping names("Verilog Sdf names");
   const Mapping strict("Verilog Sdf");
   const Mapping lenient("Verilog Sdf lenient");
+  // A NUL is no divider where there is none.
+  EXPECT_EQ(mapColumn<std::int32_t>(Mapping("FlatTessel Verilog"), 32, false),
+            "2 refused: \\u1.A ; \\module ; ; \\a.b ; \\u2.B ; ;");
   EXPECT_EQ(mapColumn<std::int32_t>(strict, 32, true), "3 refused: u1/A; @0; @0; ; u2/B; @1;");
   EXPECT_EQ(mapColumn<std::int64_t>(strict, 64, false), "3 refused: u1/A; ; ; a/b; u2/B; ;");
   EXPECT_EQ(mapColumn<std::int64_t>(lenient, 64, true), "2 refused: u1/A; @0; ; ; u2/B; @0;");
@@ -513,6 +520,7 @@ TEST(MapLines, mapsLineByLine) {
     Verilog Sdf                a.b␊␊          a/b␊␊          0 of 2
     Verilog Sdf                ""             ""             0 of 0
     Verilog Sdf                \x/y␊a.b␊      x\/y␊a/b␊      0 of 2   // the end of a line ends an escaped identifier
+    Verilog Print names        \abc␊         abc␊           0 of 1   // of which the result is a part
     Verilog Sdf                a␊x␣y␊1a␊      a␊x␣y␊1a␊      2 of 3: 1 2 3 2
     Verilog Sdf lenient        a.b␊\x/y␊a[    a/b␊x\/y␊a[    1 of 3: 2 9 2 2
     Verilog Sdf names lenient  \x/y␊a.b       x\/y␊a.b       1 of 2: 1 5 3 1
