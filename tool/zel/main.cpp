@@ -5,6 +5,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <iostream>
 #include <map>
 #include <new>
 
@@ -123,7 +124,8 @@ int run(int argc, char **argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError &error) {
-    return app.exit(error) == 0 ? statusDone : statusUsage;
+    const int status = app.exit(error) == 0 ? statusDone : statusUsage;
+    return std::cout.flush() ? status : statusFailed;
   }
   if (lines.files.empty())
     lines.files.emplace_back("-");
