@@ -106,9 +106,9 @@ struct Spelling {
 constexpr HexEscape noEscape = {'\0', anyByte};
 
 inline void copyLowered(Text &out, Bytes s) {
-  char *const to = out.bytes + out.size;
-  for (std::size_t i = 0; i < s.size(); ++i)
-    to[i] = toLower(s[i]);
+  constexpr unsigned char caseBit = 'a' - 'A';
+  moveChanged(out.bytes + out.size, s.data(), s.size(),
+              [](Block block) { return block + (reinterpret_cast<Block>(isWithin(block, 'A', 'Z')) & caseBit); });
   out.size += s.size();
 }
 

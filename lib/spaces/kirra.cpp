@@ -43,13 +43,13 @@ constexpr ByteSet nonFirst = wordChar | chars("!");
 constexpr Bytes keywordPrefix = "KEYWORD_";
 
 // Whether name must not stand without a prefix, or without one more: a keyword behind at most two prefixes.
-bool needsPrefix(Bytes name) {
+bool needsPrefix(Name name) {
   for (int prefixes = 0; prefixes <= 2; ++prefixes) {
-    if (isKeyword(Name(name, 0)))
+    if (isKeyword(name))
       return true;
     if (!startsWith(name, keywordPrefix))
       return false;
-    name = from(name, keywordPrefix.size());
+    name = Name(from(name, keywordPrefix.size()), 0);
   }
   return false;
 }
@@ -118,7 +118,7 @@ struct KirraRules : BackslashRules {
       work.put('\\');
     const Spelled spelled = BackslashRules::write(ident, setting, work);
     const Bytes written(spelled.data, spelled.length);
-    if (!needsPrefix(written))
+    if (!needsPrefix(spelled.data == body.data() ? body : Name(written, 0)))
       return spelled;
     std::memmove(work.bytes + keywordPrefix.size(), written.data(), written.size());
     std::memcpy(work.bytes, keywordPrefix.data(), keywordPrefix.size());
@@ -130,7 +130,7 @@ struct KirraRules : BackslashRules {
     if (!isNameLength(name))
       return refuseIdent();
     Name unprefixed = name;
-    if (startsWith(name, keywordPrefix) && needsPrefix(from(name, keywordPrefix.size())))
+    if (startsWith(name, keywordPrefix) && needsPrefix(Name(from(name, keywordPrefix.size()), 0)))
       unprefixed = Name(from(name, keywordPrefix.size()));
     if (Ident ident = unprefixed.isWord() ? Ident{} : readQuoted(unprefixed, work); ident.body.data() != nullptr)
       return ident;

@@ -102,7 +102,7 @@ struct EscORKARules {
     const bool wasExtended = ident.isCaseSensitive() && isForce(ident.body);
     if (wasExtended || !rules.isLegal(ident.body))
       return writeExtended(work, ident.body, writerEscape, spelling, folds);
-    if (!folds)
+    if (!folds || !ident.body.has(traitUpper))
       return ident.body;
     copyLowered(work, ident.body);
     return work.view();
