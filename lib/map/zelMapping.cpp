@@ -97,7 +97,7 @@ Bytes mapPath(const Route &route, zelHandle handle, Bytes text, MappingWork &wor
   // A level knows better why it does not convert.
   if (names.refusal.reason != ZEL_REASON_NOT_CONVERTED || names.refusal.position != refusal.position)
     refusal = names.refusal;
-  return refusal.reason == ZEL_REASON_NONE ? Bytes(items) : Bytes{};
+  return items != nullptr && refusal.reason == ZEL_REASON_NONE ? Bytes(items) : Bytes{};
 }
 
 // The string of a result, which may lie in the text; an allocator may write there: a ring marks its old results.

@@ -169,11 +169,9 @@ int runMap(const MappingSettings &mappingSettings, const LineSettings &lineSetti
   Header header(lineSettings, format);
   std::uint64_t bytes = 0;
   bool hasFailed = false;
-  // cppcheck-suppress constParameter ; runBlocks gives blocks that may be changed
-  const auto prepare = [&](const LineReader &, Block &block) { return header(block); };
   runBlocks(
-      lineSettings.files, format, std::move(works), prepare,
-      [&](const LineReader &reader, Block &block) {
+      lineSettings.files, format, std::move(works), [&](const LineReader &, Block &block) { return header(block); },
+      [&](const LineReader &reader, const Block &block) {
         bytes += block.size;
         return progress.finish(reader, block);
       },
