@@ -21,6 +21,17 @@ inline void *allocate(std::size_t size, zelAllocFunc alloc, void *context) {
   return memory;
 }
 
+// A string of what copies itself.
+template <typename Source> char *makeCopy(const Source &source, zelAllocFunc alloc, void *context) {
+  const std::size_t size = source.size();
+  auto *result = static_cast<char *>(allocate(size + 1, alloc, context));
+  if (result == nullptr)
+    return nullptr;
+  source.copyTo(result);
+  result[size] = '\0';
+  return result;
+}
+
 // The one copy at the end of an operation; text may lie in the caller's buffer that it goes to. Null for a refused one
 // (errno is then the writer's), EINVAL for an over-long one.
 inline char *makeString(const Spelled &text, zelAllocFunc alloc, void *context) {
@@ -30,12 +41,7 @@ inline char *makeString(const Spelled &text, zelAllocFunc alloc, void *context) 
     errno = EINVAL;
     return nullptr;
   }
-  auto *result = static_cast<char *>(allocate(text.size() + 1, alloc, context));
-  if (result == nullptr)
-    return nullptr;
-  text.copyTo(result);
-  result[text.size()] = '\0';
-  return result;
+  return makeCopy(text, alloc, context);
 }
 
 // The same for what a writer made in work. An allocator of the caller's may write where the Ident lies: a ring marks

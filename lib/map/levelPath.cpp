@@ -30,12 +30,12 @@ Bytes LevelPath::refuseAt(std::size_t position, std::int32_t reason) {
 std::size_t LevelPath::nameEnd(const Route &route, std::size_t start) {
   const Side &source = route.from;
   if (source.ownNames == nullptr)
-    return static_cast<std::size_t>(source.language->names.scan(begin() + start, source.setting.handle) - begin());
+    return static_cast<std::size_t>(source.language->names.scan(text + start, source.setting.handle) - text);
   // SPICE with brackets: an index is one only at the end of a level.
   std::size_t open = 0;
   std::size_t end = start;
-  for (char c = begin()[end]; c != '\0' && c != source.marks.divider; c = begin()[++end]) {
-    if (c == '\\' && begin()[end + 1] != '\0')
+  for (char c = text[end]; c != '\0' && c != source.marks.divider; c = text[++end]) {
+    if (c == '\\' && text[end + 1] != '\0')
       ++end;
     else if (c == source.marks.busOpen)
       open = end;
@@ -45,7 +45,7 @@ std::size_t LevelPath::nameEnd(const Route &route, std::size_t start) {
 }
 
 bool LevelPath::readNumber(std::size_t &at, bool takesSign, std::int64_t &value, bool &isAsPrinted) {
-  const char *const start = begin() + at;
+  const char *const start = text + at;
   const char *const firstDigit = takesSign && sign.has(*start) ? start + 1 : start;
   const char *end = firstDigit;
   std::int64_t magnitude = 0;
@@ -60,7 +60,7 @@ bool LevelPath::readNumber(std::size_t &at, bool takesSign, std::int64_t &value,
   isAsPrinted = isAsPrinted && *start != '+' && (*firstDigit != '0' || end - start == 1);
   value = *start == '-' ? -magnitude : magnitude;
   if (!isNumber(value))
-    refuseAt(static_cast<std::size_t>(start - begin()), ZEL_REASON_NUMBER_OUT_OF_RANGE);
+    refuseAt(static_cast<std::size_t>(start - text), ZEL_REASON_NUMBER_OUT_OF_RANGE);
   return isNumber(value);
 }
 
@@ -71,13 +71,13 @@ bool LevelPath::readBus(const Route &route, std::size_t open, Bus &bus) {
   std::size_t at = open + 1;
   if (!readNumber(at, takesSign, bus.first, bus.isAsPrinted))
     return false;
-  bus.isRange = begin()[at] == ':' && language.hasPlainRanges;
+  bus.isRange = text[at] == ':' && language.hasPlainRanges;
   if (bus.isRange && !readNumber(++at, takesSign, bus.last, bus.isAsPrinted))
     return false;
   bus.end = at + 1;
-  if (begin()[at] == route.from.marks.busClose)
+  if (text[at] == route.from.marks.busClose)
     return true;
-  refuseAt(at, begin()[at] == '\0' ? ZEL_REASON_UNBALANCED_BRACKET : ZEL_REASON_UNEXPECTED_CHARACTER);
+  refuseAt(at, text[at] == '\0' ? ZEL_REASON_UNBALANCED_BRACKET : ZEL_REASON_UNEXPECTED_CHARACTER);
   return false;
 }
 
@@ -98,7 +98,7 @@ bool LevelPath::mapBus(const Route &route, std::size_t open, const Bus &bus) {
     return put(open, Spelled({}, marks.busOpen, marks.busClose));
   }
   if (bus.isAsPrinted && !isDirected)
-    return put(open, Spelled(Bytes(begin() + open + 1, bus.end - open - 2), marks.busOpen, marks.busClose));
+    return put(open, Spelled(Bytes(text + open + 1, bus.end - open - 2), marks.busOpen, marks.busClose));
   char printed[64];
   const auto first = static_cast<long>(bus.first);
   const auto last = static_cast<long>(bus.last);
@@ -123,20 +123,20 @@ bool LevelPath::respell(const Route &route, std::size_t start, std::size_t end, 
   const Side &source = route.from;
   std::size_t nameStart = start;
   if (isElement && source.element != '\0') {
-    if (start == end || toLower(begin()[start]) != toLower(source.element)) {
+    if (start == end || toLower(text[start]) != toLower(source.element)) {
       refuseAt(start, ZEL_REASON_NO_ELEMENT_LETTER);
       return false;
     }
     ++nameStart;
   }
   if (nameStart == end) {
-    refuseAt(nameStart, begin()[nameStart] == '\0' ? ZEL_REASON_UNEXPECTED_END : ZEL_REASON_UNEXPECTED_CHARACTER);
+    refuseAt(nameStart, text[nameStart] == '\0' ? ZEL_REASON_UNEXPECTED_END : ZEL_REASON_UNEXPECTED_CHARACTER);
     return false;
   }
   const bool isLettered = isElement && route.to.element != '\0';
   if (isLettered && !put(start, Bytes(&route.to.element, 1)))
     return false;
-  const Name name(Bytes(begin() + nameStart, end - nameStart));
+  const Name name(Bytes(text + nameStart, end - nameStart));
   if (name.size() > maxName) {
     refuseAt(nameStart + maxName, ZEL_REASON_TOO_LONG);
     return false;
@@ -190,8 +190,8 @@ Bytes LevelPath::map(Bytes given, const Route &route) {
     return {respelled, plain.size()};
   }
   size = given.size();
-  moveBytes(begin(), given.data(), size);
-  begin()[size] = '\0';
+  moveBytes(text, given.data(), size);
+  text[size] = '\0';
   // The levels that were found to be plain are kept.
   plain.copyTo(respelled + 1);
   written = plain.size();
@@ -202,11 +202,11 @@ Bytes LevelPath::map(Bytes given, const Route &route) {
   for (;;) {
     const std::size_t end = nameEnd(route, start);
     Bus bus = {};
-    const bool hasBus = begin()[end] == source.marks.busOpen && source.marks.busOpen != '\0';
+    const bool hasBus = text[end] == source.marks.busOpen && source.marks.busOpen != '\0';
     if (hasBus && !readBus(route, end, bus))
       return {};
     const std::size_t markPlace = hasBus ? bus.end : end;
-    const char mark = begin()[markPlace];
+    const char mark = text[markPlace];
     const bool isLast = mark == '\0';
     if (isLast && markPlace != size)
       return refuseAt(markPlace, ZEL_REASON_ILLEGAL_CHARACTER);

@@ -45,8 +45,6 @@ private:
   // cppcheck-suppress uninitMemberVarPrivate
   char respelled[1 + maxName]; // behind room for one mark
 
-  char *begin() { return text; }
-
   Bytes refuseAt(std::size_t position, std::int32_t reason);
   std::size_t nameEnd(const Route &route, std::size_t start);
   bool readNumber(std::size_t &at, bool takesSign, std::int64_t &value, bool &isAsPrinted);

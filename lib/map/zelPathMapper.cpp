@@ -19,15 +19,6 @@ zelHandle handleOf(const char *spaceName) {
   return handle;
 }
 
-char *makePath(const PlainPath &path, void *context) {
-  auto *result = static_cast<char *>(allocate(path.size() + 1, nullptr, context));
-  if (result == nullptr)
-    return nullptr;
-  path.copyTo(result);
-  result[path.size()] = '\0';
-  return result;
-}
-
 char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flags, zelAllocFunc alloc, void *context) {
   if (from == nullptr || to == nullptr)
     return nullptr;
@@ -38,7 +29,7 @@ char *mapPath(const char *text, zelHandle from, zelHandle to, std::uint32_t flag
       const Bytes path(text, strnlen(text, LevelPath::longest + 1));
       // An allocator of the caller's may write where the path lies.
       if (PlainPath plain; alloc == nullptr && plain.read(path, *route))
-        return makePath(plain, context);
+        return makeCopy(plain, nullptr, context);
       if (const Bytes result = levels.map(path, *route); result.data() != nullptr)
         return makeString(result, alloc, context);
     }
